@@ -1,0 +1,32 @@
+# add_subsystem(NAME [LINK lib ...]): a static library tarvane_NAME of the sources in this folder.
+function(add_subsystem name)
+  cmake_parse_arguments(arg "" "" "LINK" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*/*.cpp)
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+  add_library(tarvane_${name} STATIC ${sources})
+  target_include_directories(tarvane_${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+  target_link_libraries(tarvane_${name} PUBLIC ${arg_LINK} PRIVATE tarvane_options)
+endfunction()
+
+# add_area_tests(NAME [LINK lib ...]): one test program of the *_test.cpp files in this folder.
+function(add_area_tests name)
+  cmake_parse_arguments(arg "" "" "LINK" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  add_executable(${name}_tests ${sources})
+  target_include_directories(${name}_tests PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/tests)
+  target_compile_definitions(${name}_tests PRIVATE
+    TARVANE_TEST_DATA="${CMAKE_CURRENT_SOURCE_DIR}" TARVANE_DATA_DIR="${CMAKE_SOURCE_DIR}/data")
+  target_link_libraries(${name}_tests PRIVATE ${arg_LINK} tarvane_options GTest::gtest_main GTest::gmock)
+  target_precompile_headers(${name}_tests PRIVATE <gtest/gtest.h> <string> <vector>)
+  gtest_discover_tests(${name}_tests DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
+endfunction()
+
+# add_area_bench(NAME [LINK lib ...]): one benchmark program of the *.cpp files in this folder.
+function(add_area_bench name)
+  cmake_parse_arguments(arg "" "" "LINK" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  add_executable(${name}_bench ${sources})
+  target_include_directories(${name}_bench PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/tests)
+  target_compile_definitions(${name}_bench PRIVATE TARVANE_DATA_DIR="${CMAKE_SOURCE_DIR}/data")
+  target_link_libraries(${name}_bench PRIVATE ${arg_LINK} tarvane_options benchmark::benchmark)
+endfunction()

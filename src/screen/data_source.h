@@ -1,0 +1,56 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "screen/field.h"
+#include "screen/grid.h"
+#include "store/row_set.h"
+
+namespace tarvane {
+
+class Database;
+
+// A screen's row set together with the fields that show its current row. A bound field's text goes into the
+// row's edit buffer as it changes; another row that becomes current fills the fields (without their rules) and
+// then runs the reposition rules.
+class DataSource {
+ public:
+  DataSource();
+
+  RowSet& rows() { return rows_; }
+  const RowSet& rows() const { return rows_; }
+
+  // Fields that show a text column get its limit of 255 characters from `limit`; memo fields pass 0.
+  void Bind(TextField& field, std::string column, int limit = 255);
+  void Bind(TickBox& box, std::string column);
+  // A grid that draws the rows of this source and moves it; TableGrid::SetSource's arguments.
+  void Attach(TableGrid& grid, std::vector<TableGrid::Column> columns = {}, std::string first_heading = "");
+
+  // Opens the source; faults as RowSet::Open, and then the fields are blank.
+  void Open(Database& database, std::string_view source);
+  void Close();
+  bool HasRow() const { return rows_.IsOpen() && rows_.HasRow(); }
+
+  void OnReposition(Rule rule) { reposition_.push_back(std::move(rule)); }
+
+  // Puts the current row's values into the fields.
+  void LoadFields();
+
+ private:
+  struct Binding {
+    TextField* field = nullptr;
+    TickBox* box = nullptr;
+    std::string column;
+    int index = -1;
+  };
+  void FindColumns();
+
+  RowSet rows_;
+  std::vector<Binding> bindings_;
+  std::vector<TableGrid*> grids_;
+  std::vector<Rule> reposition_;
+};
+
+}  // namespace tarvane

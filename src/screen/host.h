@@ -1,0 +1,82 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarvane {
+
+class Screen;
+
+// Local time as the shop's clock shows it.
+struct DateTime {
+  int year = 2000;
+  int month = 1;
+  int day = 1;
+  int hour = 0;
+  int minute = 0;
+  int second = 0;
+};
+
+// "dd/mm/yy" and "dd/mm/yyyy".
+std::string ShortDate(const DateTime& time);
+std::string LongDate(const DateTime& time);
+
+enum class Answer { kYes, kNo, kOk, kCancel };
+enum class Icon { kNone, kInformation, kQuestion, kWarning, kError };
+
+struct Question {
+  std::string title;
+  std::string text;
+  std::vector<Answer> answers;  // the buttons, in order; the last one is what closing the box gives
+  Answer preset = Answer::kYes;  // the button that Enter presses
+  Icon icon = Icon::kQuestion;
+};
+
+enum class FileChoice { kOpen, kSave };
+
+// A page for the printer: lines of pieces, each at a column of characters from 0.
+struct PrintedPiece {
+  int column = 0;
+  std::string text;
+};
+using PrintedLine = std::vector<PrintedPiece>;
+using PrintedPage = std::vector<PrintedLine>;
+
+// What screens need from outside. Texts are UTF-8; line ends in messages are "\n" or "\r\n".
+class Host {
+ public:
+  virtual ~Host() = default;
+
+  // Shows the screen on top of the others and serves the worker until it is closed.
+  virtual void RunModal(Screen& screen) = 0;
+
+  virtual void Message(std::string_view title, std::string_view text, Icon icon) = 0;
+  virtual Answer Ask(const Question& question) = 0;
+  // Nothing where the worker cancels.
+  virtual std::optional<std::string> Input(std::string_view title, std::string_view prompt,
+                                           std::string_view initial) = 0;
+  // `filter`: "Name (*.ext)|*.ext"; may be empty. Nothing where the worker cancels.
+  virtual std::optional<std::filesystem::path> ChooseFile(FileChoice kind, std::string_view title,
+                                                          std::string_view filter) = 0;
+  virtual void Beep() = 0;
+  virtual void SetBusy(bool busy) = 0;
+
+  virtual DateTime Now() = 0;
+  virtual int RandomDigit() = 0;  // 0 to 9
+
+  virtual std::string ClipboardText() = 0;
+  virtual void SetClipboardText(std::string_view text) = 0;
+  // Hands a file, an address or a program ("calc") to the platform. Faults where it can't.
+  virtual void Launch(std::string_view target) = 0;
+
+  virtual void PrintPages(const std::vector<PrintedPage>& pages) = 0;
+  virtual void SetUpPrinter() = 0;
+
+  // Ends the process at once; nothing that waits is saved.
+  [[noreturn]] virtual void EndProcess() = 0;
+};
+
+}  // namespace tarvane

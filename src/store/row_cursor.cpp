@@ -1,0 +1,190 @@
+#include "store/row_cursor.h"
+
+#include <algorithm>
+#include <charconv>
+#include <numeric>
+#include <utility>
+
+#include "store/criteria.h"
+#include "store/criterion_scanner.h"
+#include "store/text_fold.h"
+#include "text_number/fault.h"
+
+namespace tarvane {
+
+namespace {
+
+struct SourceText {
+  std::string table;
+  std::optional<Criterion> criterion;
+};
+
+// A table name, or SELECT * FROM table [WHERE criterion].
+SourceText ParseSource(std::string_view text) {
+  CriterionScanner scanner(text);
+  const bool query = scanner.TryWord("SELECT") && scanner.TryWord("*");
+  if (query) scanner.Word("FROM");
+  if (!query) scanner = CriterionScanner(text);
+  SourceText source{scanner.Name(), std::nullopt};
+  if (query && scanner.TryWord("WHERE")) {
+    source.criterion = ParseCriterion(scanner.Rest());
+  } else {
+    scanner.TryWord(";");
+    scanner.End();
+  }
+  return source;
+}
+
+}  // namespace
+
+RowCursor::RowCursor(Connection& connection, std::string_view source) : connection_(connection) {
+  const SourceText text = ParseSource(source);
+  connection_.NoticeOtherWriters();
+  table_ = ReadSchema(connection, text.table);
+  row_sql_ = "SELECT * FROM " + table_.quoted + " WHERE rowid = ?1";
+  source_ = text.criterion ? MakeCriterionSource(CriterionQuery(connection, table_, *text.criterion))
+                           : MakeTableSource(connection, table_);
+  rows_version_ = connection_.rows_version();
+  values_version_ = connection_.values_version();
+  Go([this] { return source_->First(); }, End::kBack);
+  events_ = {true, true};
+}
+
+int RowCursor::Find(std::string_view column) const {
+  const auto name = [this](int at) -> const std::string& {
+    return table_.columns[static_cast<std::size_t>(at)].name;
+  };
+  if (by_name_.empty()) {
+    by_name_.resize(table_.columns.size());
+    std::iota(by_name_.begin(), by_name_.end(), 0);
+    std::sort(by_name_.begin(), by_name_.end(), [&](int a, int b) { return LessName(name(a), name(b)); });
+  }
+  const auto found =
+      std::lower_bound(by_name_.begin(), by_name_.end(), column,
+                       [&](int at, std::string_view wanted) { return LessName(name(at), wanted); });
+  return found != by_name_.end() && EqualNames(name(*found), column) ? *found : -1;
+}
+
+RowCursor::Events RowCursor::TakeEvents() { return std::exchange(events_, {}); }
+
+// Other row sets of this connection may have written since the last step.
+void RowCursor::NoticeChanges() {
+  if (values_version_ != connection_.values_version()) pages_.Clear();
+  if (rows_version_ != connection_.rows_version()) source_->RowsChanged(place_);
+  values_version_ = connection_.values_version();
+  rows_version_ = connection_.rows_version();
+}
+
+std::int64_t RowCursor::Count() {
+  NoticeChanges();
+  return source_->Count();
+}
+
+std::int64_t RowCursor::Position() {
+  NoticeChanges();
+  if (!place_ || adding_) return -1;
+  place_->position = source_->Position(*place_);
+  return place_->position;
+}
+
+const std::vector<std::string>& RowCursor::PeekRow(std::int64_t position, const std::vector<int>& columns) {
+  NoticeChanges();
+  return pages_.Row(connection_, table_, *source_, position, columns);
+}
+
+bool RowCursor::ReadRow(std::int64_t key, std::vector<std::string>& values) {
+  Statement row = connection_.Use(row_sql_);
+  if (!row.Bind(1, key).Step()) return false;
+  values.resize(table_.columns.size());
+  for (std::size_t i = 0; i < values.size(); ++i) values[i].assign(row.Text(static_cast<int>(i)));
+  return true;
+}
+
+// `target` names the place to go to; a row that has gone in the meantime is dropped and the next one asked
+// for.
+void RowCursor::Go(const std::function<std::optional<Place>()>& target, End end) {
+  NoticeChanges();
+  std::optional<Place> place = target();
+  while (place && !ReadRow(place->key, scratch_)) {
+    source_->Removed(*place);
+    if (place_) place_ = source_->OfKey(place_->key);
+    place = target();
+  }
+  if (!place) {
+    Leave(end);
+    return;
+  }
+  place_ = place;
+  row_.swap(scratch_);
+  events_.repositioned = true;
+}
+
+void RowCursor::Leave(End end) {
+  events_.repositioned = events_.repositioned || place_.has_value();
+  place_.reset();
+  end_ = end;
+}
+
+void RowCursor::MoveFirst() {
+  Update();
+  Go([this] { return source_->First(); }, End::kBack);
+}
+
+void RowCursor::MoveLast() {
+  Update();
+  Go([this] { return source_->Last(); }, End::kBack);
+}
+
+void RowCursor::MoveNext() {
+  Update();
+  if (!place_ && end_ == End::kBack) return;
+  Go([this] { return place_ ? source_->Next(*place_) : source_->First(); }, End::kBack);
+}
+
+void RowCursor::MovePrevious() {
+  Update();
+  if (!place_ && end_ == End::kFront) return;
+  Go([this] { return place_ ? source_->Previous(*place_) : source_->Last(); }, End::kFront);
+}
+
+void RowCursor::MoveTo(std::int64_t position) {
+  Update();
+  NoticeChanges();
+  if (!source_->At(position))
+    throw Fault("The table " + table_.name + " has no row " + std::to_string(position + 1) + ".");
+  Go([this, position] { return source_->At(position); }, End::kBack);
+}
+
+void RowCursor::FindFirst(std::string_view criterion) {
+  Update();
+  no_match_ = true;
+  const CriterionQuery query(connection_, table_, ParseCriterion(criterion));
+  NoticeChanges();
+  const std::optional<Place> found = source_->FindFirst(query);
+  if (!found || !ReadRow(found->key, scratch_)) return;
+  no_match_ = false;
+  place_ = found;
+  row_.swap(scratch_);
+  events_.repositioned = true;
+}
+
+std::string RowCursor::Bookmark() const { return place_ && !adding_ ? std::to_string(place_->key) : ""; }
+
+void RowCursor::SetBookmark(std::string_view bookmark) {
+  Update();
+  NoticeChanges();
+  std::int64_t key = 0;
+  const auto read = std::from_chars(bookmark.data(), bookmark.data() + bookmark.size(), key);
+  const bool sound = read.ec == std::errc() && read.ptr == bookmark.data() + bookmark.size();
+  const std::optional<Place> place = sound ? source_->OfKey(key) : std::nullopt;
+  if (!place || !ReadRow(place->key, scratch_)) FailGone();
+  place_ = place;
+  row_.swap(scratch_);
+  events_.repositioned = true;
+}
+
+void RowCursor::FailGone() const {
+  throw Fault("The row of " + table_.name + " isn't there any more (" + connection_.file().string() + ").");
+}
+
+}  // namespace tarvane

@@ -1,0 +1,60 @@
+#include "store/row_pages.h"
+
+#include <algorithm>
+
+#include "store/connection.h"
+
+namespace tarvane {
+
+namespace {
+
+constexpr std::int64_t kRowsOfPage = 64;
+constexpr std::size_t kMostPages = 6;
+
+std::string PageSql(const TableSchema& table, const std::vector<int>& columns) {
+  std::string sql = "SELECT 1";
+  for (const int column : columns) {
+    const bool known = column >= 0 && column < static_cast<int>(table.columns.size());
+    sql += known ? ", " + QuotedName(table.columns[static_cast<std::size_t>(column)].name) : ", ''";
+  }
+  return sql + " FROM " + table.quoted + " WHERE rowid = ?1";
+}
+
+}  // namespace
+
+RowPages::Page RowPages::Read(Connection& connection, const TableSchema& table, RowSource& source,
+                              std::int64_t first, const std::vector<int>& columns) {
+  Page page{first, columns, {}};
+  Statement row = connection.Use(PageSql(table, columns));
+  for (const std::int64_t key : source.Keys(first, kRowsOfPage)) {
+    std::vector<std::string>& values = page.rows.emplace_back();
+    row.Bind(1, key);
+    if (row.Step()) {
+      for (std::size_t i = 0; i < columns.size(); ++i) values.emplace_back(row.Text(static_cast<int>(i) + 1));
+    }
+    row.Reset();
+  }
+  return page;
+}
+
+const std::vector<std::string>& RowPages::Row(Connection& connection, const TableSchema& table,
+                                              RowSource& source, std::int64_t position,
+                                              const std::vector<int>& columns) {
+  static const std::vector<std::string> none;
+  if (position < 0) return none;
+  const std::int64_t first = position - position % kRowsOfPage;
+  const auto found = std::find_if(pages_.begin(), pages_.end(), [&](const Page& page) {
+    return page.first == first && page.columns == columns;
+  });
+  if (found != pages_.end()) {
+    pages_.splice(pages_.begin(), pages_, found);
+  } else {
+    pages_.push_front(Read(connection, table, source, first, columns));
+    if (pages_.size() > kMostPages) pages_.pop_back();
+  }
+  const Page& page = pages_.front();
+  const auto row = static_cast<std::size_t>(position - first);
+  return row < page.rows.size() ? page.rows[row] : none;
+}
+
+}  // namespace tarvane

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <compare>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+// How texts are compared without regard to case, character by character: the ground of criteria, of the order
+// of search results, and of the indexes that answer them.
+namespace tarvane {
+
+// A byte that is part of no UTF-8 character stands for kBadByte plus itself: behind all characters.
+inline constexpr char32_t kBadByte = 0x110000;
+
+struct DecodedCharacter {
+  char32_t character = 0;
+  std::size_t length = 0;  // bytes taken, at least 1
+};
+
+// The character at `at`, which must lie within `text`.
+DecodedCharacter DecodeCharacter(std::string_view text, std::size_t at) noexcept;
+
+// The form in which characters that differ only in case are equal. Folding twice changes nothing more.
+char32_t FoldCharacter(char32_t character) noexcept;
+
+// Order by folded characters; equal texts may differ in case.
+std::strong_ordering CompareFolded(std::string_view left, std::string_view right) noexcept;
+
+// The first text behind all texts that begin with `prefix`, in the order above. Empty where there is none, or
+// where `prefix` is empty or no sound UTF-8.
+std::string FirstBehindPrefix(std::string_view prefix);
+
+// Equal but for the case of ASCII letters: names of columns, files, keys.
+bool EqualNames(std::string_view left, std::string_view right) noexcept;
+// Less in that comparison.
+bool LessName(std::string_view left, std::string_view right) noexcept;
+
+}  // namespace tarvane
