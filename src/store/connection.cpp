@@ -119,7 +119,8 @@ Connection::~Connection() { statements_.clear(); }
 
 void Connection::Open(Database::Mode mode, const std::string& vfs) {
   sqlite3* handle = nullptr;
-  const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_EXRESCODE |
+  // One thread at a time uses a connection, so SQLite need not lock each call.
+  const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_EXRESCODE | SQLITE_OPEN_NOMUTEX |
                     (mode == Database::Mode::kCreate ? SQLITE_OPEN_CREATE : 0);
   int code = sqlite3_open_v2(file_.c_str(), &handle, flags, vfs.empty() ? nullptr : vfs.c_str());
   handle_.reset(handle);
@@ -158,14 +159,18 @@ Statement Connection::Use(const std::string& sql) {
 
 Statement Connection::Prepare(const std::string& sql) { return {*this, PrepareHandle(sql, 0), nullptr}; }
 
-void Connection::Execute(const std::string& sql) {
-  const int code = sqlite3_exec(handle_.get(), sql.c_str(), nullptr, nullptr, nullptr);
-  RowsChanged();
+void Connection::Change(const char* sql) {
+  const int code = sqlite3_exec(handle_.get(), sql, nullptr, nullptr, nullptr);
   if (code != SQLITE_OK) Fail(code, "changed");
 }
 
+void Connection::Execute(const std::string& sql) {
+  RowsChanged();
+  Change(sql.c_str());
+}
+
 void Connection::Begin() {
-  if (depth_ == 0) Use("BEGIN IMMEDIATE").Run();
+  if (depth_ == 0) Change("BEGIN IMMEDIATE");
   ++depth_;
 }
 
@@ -175,12 +180,22 @@ void Connection::Commit() {
     return;
   }
   try {
-    Use("COMMIT").Run();
+    Change("COMMIT");
   } catch (const Fault&) {
     Rollback();
     throw;
   }
   depth_ = 0;
+}
+
+Connection::ReadTogether::ReadTogether(Connection& connection) : connection_(connection) {
+  if (sqlite3_get_autocommit(connection.handle()) == 0) return;
+  connection_.Use("BEGIN").Run();
+  open_ = true;
+}
+
+Connection::ReadTogether::~ReadTogether() {
+  if (open_) sqlite3_exec(connection_.handle(), "ROLLBACK", nullptr, nullptr, nullptr);
 }
 
 void Connection::Rollback() noexcept {
@@ -214,7 +229,11 @@ void Connection::Fail(int code, std::string_view action) const {
   for (const Cause& known : kSystemCauses) {
     if (by_system && system == known.code) cause = known.text;
   }
-  throw Fault(file_.string() + " could not be " + std::string(action) + ": " + cause + ".");
+  // A commit that fails behind its last write may stand all the same.
+  const bool unsure = action == "changed" && (told == SQLITE_IOERR_FSYNC || told == SQLITE_IOERR_TRUNCATE ||
+                                              told == SQLITE_IOERR_DIR_FSYNC || told == SQLITE_IOERR_DELETE);
+  throw Fault(file_.string() + " could not be " + std::string(action) + ": " + cause + "." +
+              (unsure ? " The change may or may not have been saved." : ""));
 }
 
 }  // namespace tarvane

@@ -45,6 +45,19 @@ class Connection {
   void Commit();
   void Rollback() noexcept;
 
+  // While it lives the file is locked for reading once, not by each statement. Nothing may be written.
+  class ReadTogether {
+   public:
+    explicit ReadTogether(Connection& connection);
+    ~ReadTogether();
+    ReadTogether(const ReadTogether&) = delete;
+    ReadTogether& operator=(const ReadTogether&) = delete;
+
+   private:
+    Connection& connection_;
+    bool open_ = false;
+  };
+
   // Raised when rows were added or removed, and when any value may have changed; what was read before is old.
   std::int64_t rows_version() const { return rows_version_; }
   std::int64_t values_version() const { return values_version_; }
@@ -68,6 +81,7 @@ class Connection {
     bool lent = false;
   };
 
+  void Change(const char* sql);
   void Open(Database::Mode mode, const std::string& vfs);
   sqlite3_stmt* PrepareHandle(const std::string& sql, unsigned flags);
 

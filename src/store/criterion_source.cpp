@@ -33,6 +33,15 @@ class CriterionSource : public RowSource {
   }
 
   std::optional<Place> Next(const Place& place) override { return At(place.position + 1); }
+  std::vector<Place> Following(const Place& place, std::int64_t most) override {
+    Want(place.position + 2);
+    std::vector<Place> places;
+    for (std::int64_t at = place.position + 1; at < std::min(Size(), place.position + 1 + most); ++at) {
+      places.push_back({keys_[static_cast<std::size_t>(at)], at});
+    }
+    return places;
+  }
+
   std::optional<Place> Previous(const Place& place) override { return At(place.position - 1); }
 
   std::optional<Place> At(std::int64_t position) override {

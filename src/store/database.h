@@ -30,7 +30,8 @@ class Database {
   bool HasTable(std::string_view table) const;
 
   // What belongs together: all commits between construction and Commit become one. Destruction without
-  // Commit rolls back. May nest; the outermost counts.
+  // Commit rolls back. May nest; the outermost counts. Row sets that have written in one that came to nothing
+  // are to be resynced: they take their values for stored.
   class Transaction {
    public:
     explicit Transaction(Database& database);

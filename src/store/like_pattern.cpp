@@ -80,6 +80,17 @@ bool LikePattern::MatchesOne(const Token& token, char32_t character) const noexc
   return false;
 }
 
+// From `at` on, the place of the first character that could meet `token`.
+std::size_t LikePattern::FindFirst(const Token& token, std::string_view text, std::size_t at) const noexcept {
+  if (token.kind != Kind::kCharacter) return at;
+  while (at < text.size()) {
+    const DecodedCharacter decoded = DecodeCharacter(text, at);
+    if (FoldCharacter(decoded.character) == token.character) break;
+    at += decoded.length;
+  }
+  return at;
+}
+
 // Only the last star is ever gone back to: what an earlier one could give, the later one gives too.
 bool LikePattern::Matches(std::string_view text) const noexcept {
   constexpr std::size_t kNone = static_cast<std::size_t>(-1);
@@ -104,7 +115,7 @@ bool LikePattern::Matches(std::string_view text) const noexcept {
     if (star_token == kNone) return false;
     star_at += DecodeCharacter(text, star_at).length;
     token = star_token;
-    at = star_at;
+    at = star_at = FindFirst(tokens_[token], text, star_at);
   }
   while (token < tokens_.size() && tokens_[token].kind == Kind::kAnyRun) ++token;
   return token == tokens_.size();

@@ -24,6 +24,7 @@ class LikePattern {
   };
 
   std::size_t ReadBracket(std::string_view pattern, std::size_t at);
+  std::size_t FindFirst(const Token& token, std::string_view text, std::size_t at) const noexcept;
   bool MatchesOne(const Token& token, char32_t character) const noexcept;
 
   std::vector<Token> tokens_;

@@ -81,8 +81,9 @@ std::string WithProfileValue(std::string_view text, std::string_view section, st
   std::string changed(text.substr(0, spot.begin));
   if (!spot.has_value) {
     if (!changed.empty() && changed.back() != '\n') changed += "\r\n";
-    if (!spot.has_section) changed += "[" + std::string(section) + "]\r\n";
-    clean = std::string(key) + "=" + clean + "\r\n";
+    if (!spot.has_section) changed.append("[").append(section).append("]\r\n");
+    changed.append(key).append("=");
+    clean.append("\r\n");
   }
   return changed + clean + std::string(text.substr(spot.end));
 }

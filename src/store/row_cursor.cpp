@@ -7,12 +7,16 @@
 
 #include "store/criteria.h"
 #include "store/criterion_scanner.h"
+#include "store/read_rows.h"
 #include "store/text_fold.h"
 #include "text_number/fault.h"
 
 namespace tarvane {
 
 namespace {
+
+constexpr std::int64_t kStepsOfWalk = 2;
+constexpr std::int64_t kMostRowsAhead = 16;
 
 struct SourceText {
   std::string table;
@@ -69,7 +73,10 @@ RowCursor::Events RowCursor::TakeEvents() { return std::exchange(events_, {}); }
 
 // Other row sets of this connection may have written since the last step.
 void RowCursor::NoticeChanges() {
-  if (values_version_ != connection_.values_version()) pages_.Clear();
+  if (values_version_ != connection_.values_version()) {
+    pages_.Clear();
+    StopWalk();
+  }
   if (rows_version_ != connection_.rows_version()) source_->RowsChanged(place_);
   values_version_ = connection_.values_version();
   rows_version_ = connection_.rows_version();
@@ -95,8 +102,7 @@ const std::vector<std::string>& RowCursor::PeekRow(std::int64_t position, const 
 bool RowCursor::ReadRow(std::int64_t key, std::vector<std::string>& values) {
   Statement row = connection_.Use(row_sql_);
   if (!row.Bind(1, key).Step()) return false;
-  values.resize(table_.columns.size());
-  for (std::size_t i = 0; i < values.size(); ++i) values[i].assign(row.Text(static_cast<int>(i)));
+  Assign(row, 0, values);
   return true;
 }
 
@@ -104,11 +110,16 @@ bool RowCursor::ReadRow(std::int64_t key, std::vector<std::string>& values) {
 // for.
 void RowCursor::Go(const std::function<std::optional<Place>()>& target, End end) {
   NoticeChanges();
-  std::optional<Place> place = target();
-  while (place && !ReadRow(place->key, scratch_)) {
-    source_->Removed(*place);
-    if (place_) place_ = source_->OfKey(place_->key);
+  StopWalk();
+  std::optional<Place> place;
+  {
+    const Connection::ReadTogether together(connection_);
     place = target();
+    while (place && !ReadRow(place->key, scratch_)) {
+      source_->Removed(*place);
+      if (place_) place_ = source_->OfKey(place_->key);
+      place = target();
+    }
   }
   if (!place) {
     Leave(end);
@@ -138,7 +149,45 @@ void RowCursor::MoveLast() {
 void RowCursor::MoveNext() {
   Update();
   if (!place_ && end_ == End::kBack) return;
+  const std::int64_t walked = walked_;
+  NoticeChanges();
+  if (place_ && walked_ >= kStepsOfWalk && ahead_at_ == ahead_.size()) ReadAhead();
+  if (ahead_at_ < ahead_.size()) {
+    place_ = ahead_[ahead_at_].place;
+    row_.swap(ahead_[ahead_at_++].values);
+    events_.repositioned = true;
+    return;
+  }
   Go([this] { return place_ ? source_->Next(*place_) : source_->First(); }, End::kBack);
+  walked_ = walked + 1;
+}
+
+// Rows are locked and read together: one by one the locks cost more than the rows.
+void RowCursor::ReadAhead() {
+  walked_ = std::min(2 * walked_, kMostRowsAhead);
+  const Connection::ReadTogether together(connection_);
+  const std::vector<Place> places = source_->Following(*place_, walked_);
+  std::vector<std::int64_t> keys;
+  for (const Place& place : places) keys.push_back(place.key);
+  ahead_.resize(places.size());
+  std::size_t read = 0;
+  ReadRows(connection_, table_, "t.*", keys, [&](std::size_t at, const Statement& row) {
+    if (at != read) return;  // behind a row that is gone: left to the next step
+    ahead_[read].place = places[read];
+    Assign(row, 1, ahead_[read++].values);
+  });
+  ahead_.resize(read);
+  ahead_at_ = 0;
+}
+
+void RowCursor::Assign(const Statement& row, int first, std::vector<std::string>& values) const {
+  values.resize(table_.columns.size());
+  for (std::size_t i = 0; i < values.size(); ++i) values[i].assign(row.Text(static_cast<int>(i) + first));
+}
+
+void RowCursor::StopWalk() {
+  walked_ = 0;
+  ahead_at_ = ahead_.size();
 }
 
 void RowCursor::MovePrevious() {
@@ -162,6 +211,7 @@ void RowCursor::FindFirst(std::string_view criterion) {
   NoticeChanges();
   const std::optional<Place> found = source_->FindFirst(query);
   if (!found || !ReadRow(found->key, scratch_)) return;
+  StopWalk();
   no_match_ = false;
   place_ = found;
   row_.swap(scratch_);
@@ -178,6 +228,7 @@ void RowCursor::SetBookmark(std::string_view bookmark) {
   const bool sound = read.ec == std::errc() && read.ptr == bookmark.data() + bookmark.size();
   const std::optional<Place> place = sound ? source_->OfKey(key) : std::nullopt;
   if (!place || !ReadRow(place->key, scratch_)) FailGone();
+  StopWalk();
   place_ = place;
   row_.swap(scratch_);
   events_.repositioned = true;

@@ -65,6 +65,9 @@ class RowCursor {
   void NoticeChanges();
   bool ReadRow(std::int64_t key, std::vector<std::string>& values);
   void Go(const std::function<std::optional<Place>()>& target, End end);
+  void Assign(const Statement& row, int first, std::vector<std::string>& values) const;
+  void ReadAhead();
+  void StopWalk();
   void Leave(End end);
   void CheckColumn(int column) const;
   void CheckWaiting() const;
@@ -85,6 +88,15 @@ class RowCursor {
   std::vector<std::string> scratch_;
   bool adding_ = false;
   bool no_match_ = false;
+
+  // A walk by MoveNext is read some rows ahead: they are ahead_[ahead_at_] to the end.
+  struct RowAhead {
+    Place place;
+    std::vector<std::string> values;
+  };
+  std::vector<RowAhead> ahead_;
+  std::size_t ahead_at_ = 0;
+  std::int64_t walked_ = 0;
 
   RowPages pages_;
   std::int64_t rows_version_ = 0;

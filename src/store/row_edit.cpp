@@ -158,6 +158,7 @@ void RowCursor::Resync() {
   connection_.NoticeOtherWriters();
   events_.rows_changed = events_.rows_changed || rows_version_ != connection_.rows_version();
   NoticeChanges();
+  StopWalk();
   if (!place_) return;
   if (!ReadRow(place_->key, scratch_)) {
     waiting_.clear();

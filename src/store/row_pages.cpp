@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "store/connection.h"
+#include "store/read_rows.h"
 
 namespace tarvane {
 
@@ -11,13 +12,14 @@ namespace {
 constexpr std::int64_t kRowsOfPage = 64;
 constexpr std::size_t kMostPages = 6;
 
-std::string PageSql(const TableSchema& table, const std::vector<int>& columns) {
-  std::string sql = "SELECT 1";
+std::string ColumnsSql(const TableSchema& table, const std::vector<int>& columns) {
+  std::string sql;
   for (const int column : columns) {
     const bool known = column >= 0 && column < static_cast<int>(table.columns.size());
-    sql += known ? ", " + QuotedName(table.columns[static_cast<std::size_t>(column)].name) : ", ''";
+    sql += sql.empty() ? "" : ", ";
+    sql += known ? "t." + QuotedName(table.columns[static_cast<std::size_t>(column)].name) : "''";
   }
-  return sql + " FROM " + table.quoted + " WHERE rowid = ?1";
+  return sql.empty() ? "''" : sql;
 }
 
 }  // namespace
@@ -25,15 +27,13 @@ std::string PageSql(const TableSchema& table, const std::vector<int>& columns) {
 RowPages::Page RowPages::Read(Connection& connection, const TableSchema& table, RowSource& source,
                               std::int64_t first, const std::vector<int>& columns) {
   Page page{first, columns, {}};
-  Statement row = connection.Use(PageSql(table, columns));
-  for (const std::int64_t key : source.Keys(first, kRowsOfPage)) {
-    std::vector<std::string>& values = page.rows.emplace_back();
-    row.Bind(1, key);
-    if (row.Step()) {
-      for (std::size_t i = 0; i < columns.size(); ++i) values.emplace_back(row.Text(static_cast<int>(i) + 1));
-    }
-    row.Reset();
-  }
+  const Connection::ReadTogether together(connection);
+  const std::vector<std::int64_t> keys = source.Keys(first, kRowsOfPage);
+  page.rows.resize(keys.size());
+  ReadRows(connection, table, ColumnsSql(table, columns), keys, [&](std::size_t at, const Statement& row) {
+    for (std::size_t i = 0; i < columns.size(); ++i)
+      page.rows[at].emplace_back(row.Text(static_cast<int>(i) + 1));
+  });
   return page;
 }
 

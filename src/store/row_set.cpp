@@ -57,7 +57,9 @@ bool RowSet::IsOpen() const noexcept { return state_ && state_->cursor.has_value
 int RowSet::ColumnCount() const { return static_cast<int>(state_->Cursor().table().columns.size()); }
 
 const std::string& RowSet::ColumnName(int column) const {
-  return state_->Cursor().table().columns.at(static_cast<std::size_t>(column)).name;
+  const auto& columns = state_->Cursor().table().columns;
+  if (column < 0 || column >= ColumnCount()) throw Fault("There is no column " + std::to_string(column) + ".");
+  return columns[static_cast<std::size_t>(column)].name;
 }
 
 int RowSet::FindColumn(std::string_view name) const { return state_->Cursor().Find(name); }

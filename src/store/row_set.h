@@ -50,7 +50,7 @@ class RowSet {
   std::int64_t RecordCount() const;       // rows of the source (an index is counted, no row is read)
   std::int64_t AbsolutePosition() const;  // of the current row, from 0; -1 without one or while adding
   bool HasRow() const;                    // a row is current, or one is being added
-  bool IsEditing() const;                 // changed columns wait for a commit
+  bool IsEditing() const;                 // changed columns, or a new row, wait for a commit
   bool IsAdding() const;
 
   // At an end the row set is left without a current row (HasRow is false), as in MoveNext past the last row.
@@ -86,7 +86,8 @@ class RowSet {
   // text of more than 255 characters in a text column; what SQLite refuses) leave the buffer as it is.
   void Update();
   void CancelUpdate();  // drops what waits; after AddNew the former row is current again
-  void Delete();        // of the current row; then the next one is current, else the last, else none
+  void Delete();        // of the current row; then the next one is current, else the last, else none. While
+                        // adding: as CancelUpdate
 
   // Re-reads the current row. A column that waits in the buffer keeps the waiting value, unless the stored
   // value has changed since it was read: then the stored one wins.

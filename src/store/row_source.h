@@ -26,6 +26,7 @@ class RowSource {
   virtual std::optional<Place> First() = 0;
   virtual std::optional<Place> Last() = 0;
   virtual std::optional<Place> Next(const Place& place) = 0;
+  virtual std::vector<Place> Following(const Place& place, std::int64_t most) = 0;
   virtual std::optional<Place> Previous(const Place& place) = 0;
   virtual std::optional<Place> At(std::int64_t position) = 0;
   virtual std::optional<Place> OfKey(std::int64_t key) = 0;

@@ -47,6 +47,17 @@ class TableSource : public RowSource {
         place.position >= 0 ? place.position + 1 : -1);
   }
 
+  std::vector<Place> Following(const Place& place, std::int64_t most) override {
+    std::vector<Place> places;
+    Statement next =
+        connection_.Use("SELECT rowid FROM " + table_ + " WHERE rowid > ?1 ORDER BY rowid LIMIT ?2");
+    next.Bind(1, place.key).Bind(2, most);
+    for (std::int64_t position = place.position; next.Step();) {
+      places.push_back({next.Number(0), position >= 0 ? ++position : -1});
+    }
+    return places;
+  }
+
   std::optional<Place> Previous(const Place& place) override {
     return PlaceOf(
         Ask("SELECT rowid FROM " + table_ + " WHERE rowid < ?1 ORDER BY rowid DESC LIMIT 1", {place.key}),
@@ -134,7 +145,7 @@ class TableSource : public RowSource {
     if (!extent_) {
       const auto first = First();
       const auto last = Last();
-      extent_.emplace();
+      extent_ = Extent{};
       if (first && last) *extent_ = {first->key, last->key, last->key - first->key + 1 == Count()};
     }
     return *extent_;

@@ -22,9 +22,8 @@ std::string Encode(char32_t character) {
 
 }  // namespace
 
-DecodedCharacter DecodeCharacter(std::string_view text, std::size_t at) noexcept {
+DecodedCharacter DecodeBeyondAscii(std::string_view text, std::size_t at) noexcept {
   const auto byte = static_cast<unsigned char>(text[at]);
-  if (byte < 0x80) return {byte, 1};
   utf8proc_int32_t character = 0;
   const auto rest = static_cast<utf8proc_ssize_t>(std::min<std::size_t>(text.size() - at, 4));
   const auto length =
@@ -33,8 +32,7 @@ DecodedCharacter DecodeCharacter(std::string_view text, std::size_t at) noexcept
   return {static_cast<char32_t>(character), static_cast<std::size_t>(length)};
 }
 
-char32_t FoldCharacter(char32_t character) noexcept {
-  if (character < 0x80) return LowerAscii(static_cast<unsigned char>(character));
+char32_t FoldBeyondAscii(char32_t character) noexcept {
   if (character > kLastCharacter) return character;
   // By way of the capital, so that the two small sigmas, the long s and their like meet.
   const auto upper = utf8proc_toupper(static_cast<utf8proc_int32_t>(character));

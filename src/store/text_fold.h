@@ -17,11 +17,20 @@ struct DecodedCharacter {
   std::size_t length = 0;  // bytes taken, at least 1
 };
 
+DecodedCharacter DecodeBeyondAscii(std::string_view text, std::size_t at) noexcept;
+char32_t FoldBeyondAscii(char32_t character) noexcept;
+
 // The character at `at`, which must lie within `text`.
-DecodedCharacter DecodeCharacter(std::string_view text, std::size_t at) noexcept;
+inline DecodedCharacter DecodeCharacter(std::string_view text, std::size_t at) noexcept {
+  const auto byte = static_cast<unsigned char>(text[at]);
+  return byte < 0x80 ? DecodedCharacter{byte, 1} : DecodeBeyondAscii(text, at);
+}
 
 // The form in which characters that differ only in case are equal. Folding twice changes nothing more.
-char32_t FoldCharacter(char32_t character) noexcept;
+inline char32_t FoldCharacter(char32_t character) noexcept {
+  if (character >= 0x80) return FoldBeyondAscii(character);
+  return character >= U'A' && character <= U'Z' ? character + (U'a' - U'A') : character;
+}
 
 // Order by folded characters; equal texts may differ in case.
 std::strong_ordering CompareFolded(std::string_view left, std::string_view right) noexcept;

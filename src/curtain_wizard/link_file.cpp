@@ -1,0 +1,125 @@
+#include <array>
+
+#include "curtain_wizard/item_record.h"
+#include "curtain_wizard/wizard.h"
+#include "store/data_files.h"
+
+namespace tarvane {
+namespace {
+
+constexpr std::string_view kFilter = "Tarvane Files (*.tvs)|*.tvs";
+constexpr std::size_t kLinkLines = 40;
+
+// Line 14 holds an option of the list editor where the goblet option would belong, so that a goblet choice
+// does not survive the file; files in use have it so. Lines 39 and 40 are the same.
+std::array<StoredControl, kLinkLines> LinkFields(MainCWizard& w) {
+  return {
+      w.TrackWidthIns,
+      w.FabricWidthIns,
+      w.Fullness,
+      w.FinishedLengthIns,
+      w.PatternRepeatIns,
+      w.PatternsPerDrop,
+      w.NumberOfDrops,
+      w.TotalInches,
+      w.HemAllowanceIns,
+      w.MetresRequired,
+      w.CutLengthIns,
+      w.CutLengthCm,
+      w.AutoMeasureBoxPleat,
+      w.Option5,
+      w.OptionCancel,
+      w.TxtAutoTrack,
+      w.FabricName,
+      w.FabricPrice,
+      w.TapePrice,
+      w.NoTieBacks,
+      w.TieBacksNeeded,
+      w.CboTieBacks,
+      w.TxtNoOfTieBacks,
+      w.TxtTieBacksUnitPrice,
+      w.TieBackStyle,
+      w.LiningNeeded,
+      w.InterliningNeeded,
+      w.LiningPrice,
+      w.InterliningPrice,
+      w.TrimKind,
+      w.CboTrims,
+      w.AllSides,
+      w.PlaceTop,
+      w.PlaceBottom,
+      w.PlaceTwoSides,
+      w.PlaceFourSides,
+      w.TrimName,
+      w.TxtBorderCutSize,
+      w.LabourPrice,
+      w.LabourPrice,
+  };
+}
+
+std::string LinkText(MainCWizard& wizard) {
+  std::string text = wizard.TrackWidthIns.empty() ? "0" : "";
+  for (const StoredControl& field : LinkFields(wizard)) {
+    field.AppendTo(text);
+    text += "\r\n";
+  }
+  return text;
+}
+
+std::string_view Trimmed(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return "";
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+}  // namespace
+
+void MainCWizard::MarkLinkSaved() { saved_link_ = LinkText(*this); }
+
+void MainCWizard::OpenLink() {
+  if (LinkText(*this) != saved_link_) {
+    if (!AskYesNo("Save Data.", "This job has changed, Do you want to save?")) return;
+    SaveLink();
+  }
+  const auto file = host().ChooseFile(FileChoice::kOpen, "Open Link...", kFilter);
+  if (!file) return;
+  ReadLink(*file);
+  link_file_ = *file;
+  MarkLinkSaved();
+}
+
+void MainCWizard::SaveLink() {
+  if (link_file_.empty()) {
+    SaveLinkAs();
+  } else {
+    WriteLink(link_file_);
+  }
+}
+
+void MainCWizard::SaveLinkAs() {
+  const auto file = host().ChooseFile(FileChoice::kSave, "Save As...", kFilter);
+  if (!file) return;
+  WriteLink(*file);
+  link_file_ = *file;
+}
+
+void MainCWizard::WriteLink(const std::filesystem::path& file) {
+  ReplaceFile(file, LinkText(*this));
+  MarkLinkSaved();
+}
+
+// All or nothing: a file that ends early leaves the fields as they are.
+void MainCWizard::ReadLink(const std::filesystem::path& file) {
+  const auto text = ReadFile(file);
+  if (!text) throw Fault("Cannot read " + file.string() + ".");
+  const std::vector<std::string> lines = SplitLines(*text);
+  if (lines.size() < kLinkLines) {
+    throw Fault(file.string() + " is not a link file: it ends after " + std::to_string(lines.size()) +
+                " of " + std::to_string(kLinkLines) + " lines.");
+  }
+  const auto fields = LinkFields(*this);
+  for (std::size_t i = 0; i < fields.size(); ++i) fields[i].Restore(Trimmed(lines[i]));
+  ApplyRestored();
+}
+
+}  // namespace tarvane

@@ -1,0 +1,356 @@
+#include "desktop/list_views.h"
+
+#include <QAbstractListModel>
+#include <QAbstractTableModel>
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QListView>
+#include <QMenu>
+#include <QPainter>
+#include <QStyledItemDelegate>
+#include <QTableView>
+#include <algorithm>
+#include <functional>
+#include <limits>
+
+#include "desktop/text.h"
+#include "desktop/theme.h"
+
+namespace tarvane {
+namespace {
+
+// Cells of a grid; its heading row is the table's heading.
+class GridModel : public QAbstractTableModel {
+ public:
+  GridModel(const Grid& grid, TableLook look, QObject* parent)
+      : QAbstractTableModel(parent), grid_(&grid), look_(std::move(look)) {
+    Read();
+  }
+
+  const TableLook& look() const { return look_; }
+  // -1 where the grid has none of that heading.
+  int ColumnOf(std::string_view heading) const {
+    for (int column = 0; column < columns_; ++column) {
+      if (grid_->Cell(0, column) == heading) return column;
+    }
+    return -1;
+  }
+  bool IsShown(int column) const { return look_.columns.empty() || LookOf(column) != nullptr; }
+  int WidthOf(int column) const {
+    const TableColumn* look = LookOf(column);
+    return look == nullptr ? 0 : look->width;
+  }
+
+  void Reset() {
+    beginResetModel();
+    Read();
+    endResetModel();
+  }
+
+  int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows_; }
+  int columnCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : columns_; }
+
+  QVariant data(const QModelIndex& index, int role) const override {
+    if (role == Qt::DisplayRole || role == Qt::ToolTipRole) return Text(index.row() + 1, index.column());
+    if (role == Qt::TextAlignmentRole) return Alignment(index.column());
+    return {};
+  }
+
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
+    if (orientation != Qt::Horizontal || section >= columns_) return {};
+    if (role == Qt::TextAlignmentRole) return Alignment(section);
+    if (role != Qt::DisplayRole) return {};
+    const TableColumn* look = LookOf(section);
+    return look == nullptr || look->shown_as.empty() ? Text(0, section) : ToQt(look->shown_as);
+    return {};
+  }
+
+ private:
+  void Read() {
+    rows_ = static_cast<int>(std::min<std::int64_t>(grid_->RowCount(), std::numeric_limits<int>::max()));
+    columns_ = grid_->ColumnCount();
+    looks_.assign(static_cast<std::size_t>(columns_), nullptr);
+    for (const TableColumn& column : look_.columns) {
+      if (const int at = ColumnOf(column.heading); at >= 0) looks_[static_cast<std::size_t>(at)] = &column;
+    }
+  }
+
+  const TableColumn* LookOf(int column) const { return looks_[static_cast<std::size_t>(column)]; }
+  int Alignment(int column) const {
+    const TableColumn* look = LookOf(column);
+    const bool number = look != nullptr && look->number;
+    return static_cast<int>((number ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+  }
+
+  // A row that can't be read is drawn empty: painting is no place for a message.
+  QString Text(std::int64_t row, int column) const {
+    try {
+      return ToQt(grid_->Cell(row, column)).simplified();
+    } catch (const std::exception&) {
+      return {};
+    }
+  }
+
+  const Grid* grid_;
+  const TableLook look_;
+  std::vector<const TableColumn*> looks_;
+  int rows_ = 0;
+  int columns_ = 0;
+};
+
+// Draws a cell's text in one line, several times as fast as the general delegate: a page of a table is drawn at
+// every key.
+class LineDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const bool selected = option.state & QStyle::State_Selected;
+    const bool focus = option.state & (QStyle::State_HasFocus | QStyle::State_Active);
+    const auto group = focus ? QPalette::Active : QPalette::Inactive;
+    if (selected) {
+      painter->fillRect(option.rect, option.palette.brush(group, QPalette::Highlight));
+    } else if (option.features & QStyleOptionViewItem::Alternate) {
+      painter->fillRect(option.rect, option.palette.brush(QPalette::AlternateBase));
+    }
+    const QString text = index.data().toString();
+    if (text.isEmpty()) return;
+    const int margin = option.fontMetrics.averageCharWidth();
+    const QRect room = option.rect.adjusted(margin, 0, -margin, 0);
+    const int width = option.fontMetrics.horizontalAdvance(text);
+    const QString shown =
+        width <= room.width() ? text : option.fontMetrics.elidedText(text, Qt::ElideRight, room.width());
+    const bool right = index.data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight;
+    const int left = right && width <= room.width() ? room.right() + 1 - width : room.left();
+    const int base = room.top() + (room.height() + option.fontMetrics.ascent() - option.fontMetrics.descent()) / 2;
+    painter->setPen(option.palette.color(group, selected ? QPalette::HighlightedText : QPalette::Text));
+    painter->drawText(left, base, shown);
+  }
+};
+
+// What the worker does in a list is told when it is done: a row once the mouse is let go or the key has moved,
+// and an opening by double click or Enter.
+class GridTable : public QTableView {
+ public:
+  std::function<void(int)> picked;
+  std::function<void(int)> opened;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    const int before = currentIndex().row();
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+      if (before >= 0) opened(before);
+      return;
+    }
+    if ((event->key() == Qt::Key_Home || event->key() == Qt::Key_End) && model()->rowCount() > 0) {
+      const int row = event->key() == Qt::Key_Home ? 0 : model()->rowCount() - 1;
+      setCurrentIndex(model()->index(row, std::max(0, currentIndex().column())));
+    } else {
+      QTableView::keyPressEvent(event);
+    }
+    if (currentIndex().row() != before) picked(currentIndex().row());
+  }
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    QTableView::mouseReleaseEvent(event);
+    const QModelIndex at = indexAt(event->position().toPoint());
+    const bool after_opening = std::exchange(opened_by_mouse_, false);
+    if (event->button() == Qt::LeftButton && at.isValid() && !after_opening) picked(at.row());
+  }
+  void mouseDoubleClickEvent(QMouseEvent* event) override {
+    const QModelIndex at = indexAt(event->position().toPoint());
+    opened_by_mouse_ = true;
+    if (at.isValid()) opened(at.row());
+  }
+
+ private:
+  bool opened_by_mouse_ = false;
+};
+
+// The grid's widths are meant for a text of 8.25 points.
+int WidthOf(const Grid& grid, const GridModel& model, int column) {
+  if (const int digits = model.WidthOf(column); digits > 0) return Digits(digits) + Quarters(2);
+  const auto at = static_cast<std::size_t>(column);
+  const double points = QApplication::font().pointSizeF();
+  if (at < grid.widths().size() && grid.widths()[at] > 0) {
+    return static_cast<int>(grid.widths()[at] / 15.0 * points / 8.25);
+  }
+  const QString heading = model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+  return std::max(QFontMetrics(QApplication::font()).horizontalAdvance(heading) + Quarters(4), Digits(7));
+}
+
+void MeasureColumns(QTableView* table, const GridModel& model, const Grid& grid) {
+  for (int column = 0; column < grid.ColumnCount(); ++column) {
+    if (!table->isColumnHidden(column)) table->setColumnWidth(column, WidthOf(grid, model, column));
+  }
+}
+
+void ArrangeColumns(QTableView* table, const GridModel& model, const Grid& grid) {
+  QHeaderView* header = table->horizontalHeader();
+  for (int column = 0; column < grid.ColumnCount(); ++column) {
+    table->setColumnHidden(column, !model.IsShown(column));
+  }
+  int place = 0;
+  for (const TableColumn& column : model.look().columns) {
+    if (const int at = model.ColumnOf(column.heading); at >= 0) header->moveSection(header->visualIndex(at), place++);
+  }
+  const int wide = model.look().wide.empty() ? -1 : model.ColumnOf(model.look().wide);
+  header->setStretchLastSection(wide < 0);
+  if (wide >= 0) header->setSectionResizeMode(wide, QHeaderView::Stretch);
+  MeasureColumns(table, model, grid);
+}
+
+void OfferColumns(QTableView* table) {
+  QHeaderView* header = table->horizontalHeader();
+  header->setContextMenuPolicy(Qt::CustomContextMenu);
+  QObject::connect(header, &QWidget::customContextMenuRequested, table, [table, header](const QPoint& at) {
+    QMenu menu;
+    for (int column = 0; column < table->model()->columnCount(); ++column) {
+      const QString heading = table->model()->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+      if (heading.isEmpty()) continue;
+      QAction* action = menu.addAction(QString(heading).replace("&", "&&"));
+      action->setCheckable(true);
+      action->setChecked(!table->isColumnHidden(column));
+      QObject::connect(action, &QAction::toggled, table,
+                       [table, column](bool shown) { table->setColumnHidden(column, !shown); });
+    }
+    menu.exec(header->mapToGlobal(at));
+  });
+}
+
+// The heading at the side, hidden though it is, would tell the new height of each of a million rows.
+void SetRowHeight(QTableView* table) {
+  QHeaderView* rows = table->verticalHeader();
+  if (rows->defaultSectionSize() == Quarters(6)) return;
+  {
+    const QSignalBlocker quiet(rows);
+    rows->setMinimumSectionSize(Quarters(5));
+    rows->setDefaultSectionSize(Quarters(6));
+  }
+  table->doItemsLayout();
+}
+
+void DressTable(GridTable* table) {
+  table->setSelectionBehavior(QAbstractItemView::SelectRows);
+  table->setSelectionMode(QAbstractItemView::SingleSelection);
+  table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  table->setTabKeyNavigation(false);
+  table->setAlternatingRowColors(true);
+  table->setShowGrid(false);
+  table->setItemDelegate(std::make_unique<LineDelegate>(table).release());
+  table->setWordWrap(false);
+  table->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+  table->verticalHeader()->hide();
+  table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  table->horizontalHeader()->setHighlightSections(false);
+}
+
+void DrawSelection(QTableView* table, const Grid& grid) {
+  const int row = static_cast<int>(std::min<std::int64_t>(grid.selected_row(), table->model()->rowCount())) - 1;
+  if (row == table->currentIndex().row()) return;
+  const int column = std::max(0, table->columnAt(0));
+  table->setCurrentIndex(row < 0 ? QModelIndex() : table->model()->index(row, column));
+}
+
+// Entries of a list, drawn where they stand.
+class EntryModel : public QAbstractListModel {
+ public:
+  EntryModel(const ListBox& list, QObject* parent) : QAbstractListModel(parent), list_(&list) { Reset(); }
+  void Reset() {
+    beginResetModel();
+    rows_ = static_cast<int>(list_->entries().size());
+    endResetModel();
+  }
+  int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows_; }
+  QVariant data(const QModelIndex& index, int role) const override {
+    const auto at = static_cast<std::size_t>(index.row());
+    if (role != Qt::DisplayRole || at >= list_->entries().size()) return {};
+    return ToQt(list_->entries()[at]);
+  }
+
+ private:
+  const ListBox* list_;
+  int rows_ = 0;
+};
+
+class EntryList : public QListView {
+ public:
+  std::function<void(int)> picked;
+  std::function<void(int)> opened;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    const int before = currentIndex().row();
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+      opened(before);
+      return;
+    }
+    QListView::keyPressEvent(event);
+    if (currentIndex().row() != before) picked(currentIndex().row());
+  }
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    QListView::mouseReleaseEvent(event);
+    const QModelIndex at = indexAt(event->position().toPoint());
+    const bool after_opening = std::exchange(opened_by_mouse_, false);
+    if (event->button() == Qt::LeftButton && at.isValid() && !after_opening) picked(at.row());
+  }
+  void mouseDoubleClickEvent(QMouseEvent* event) override {
+    opened_by_mouse_ = true;
+    opened(indexAt(event->position().toPoint()).row());
+  }
+
+ private:
+  bool opened_by_mouse_ = false;
+};
+
+}  // namespace
+
+QTableView* MakeTable(Form& form, Grid& grid, const TableLook& look) {
+  auto* table = std::make_unique<GridTable>().release();
+  auto* model = std::make_unique<GridModel>(grid, look, table).release();
+  DressTable(table);
+  SetRowHeight(table);
+  table->setModel(model);
+  OfferColumns(table);
+  form.Bind(grid, table, [table, model, &grid, columns = -1](Aspect aspect) mutable {
+    if (aspect == Aspect::kRows) {
+      if (columns >= 0) model->Reset();
+      if (std::exchange(columns, grid.ColumnCount()) != grid.ColumnCount()) ArrangeColumns(table, *model, grid);
+    }
+    if (aspect == Aspect::kRows || aspect == Aspect::kSelection) DrawSelection(table, grid);
+  });
+  form.AddSizer([table, model, &grid] {
+    SetRowHeight(table);
+    MeasureColumns(table, *model, grid);
+  });
+  table->picked = [&form, &grid](int row) {
+    form.ActLater(grid, [&grid, row](Control&) { grid.UserSelectRow(row + 1); });
+  };
+  table->opened = [&form, &grid](int row) {
+    form.ActLater(grid, [&grid, row](Control&) { grid.UserOpenRow(row + 1); });
+  };
+  return table;
+}
+
+QWidget* MakeListBox(Form& form, ListBox& list) {
+  auto* view = std::make_unique<EntryList>().release();
+  auto* model = std::make_unique<EntryModel>(list, view).release();
+  view->setModel(model);
+  view->setUniformItemSizes(true);
+  view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  form.Bind(list, view, [view, model, &list](Aspect aspect) {
+    if (aspect == Aspect::kEntries) model->Reset();
+    if (aspect != Aspect::kEntries && aspect != Aspect::kSelection) return;
+    view->setCurrentIndex(list.selected() < 0 ? QModelIndex() : model->index(list.selected()));
+  });
+  view->picked = [&form, &list](int entry) {
+    form.ActLater(list, [&list, entry](Control&) { list.UserPick(entry); });
+  };
+  view->opened = [&form, &list](int entry) {
+    form.ActLater(list, [&list, entry](Control&) { list.UserOpen(entry); });
+  };
+  return view;
+}
+
+}  // namespace tarvane

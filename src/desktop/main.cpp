@@ -1,0 +1,5 @@
+#include <QApplication>
+
+#include "desktop/program.h"
+
+int main(int argc, char** argv) { return tarvane::RunProgram(argc, argv); }

@@ -1,0 +1,263 @@
+#include "desktop/qt_host.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDateTime>
+#include <QDesktopServices>
+#include <QDir>
+#include <QEventLoop>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPrinter>
+#include <QProcess>
+#include <QPushButton>
+#include <QRandomGenerator>
+#include <QScreen>
+#include <QSettings>
+#include <QShortcut>
+#include <QStandardPaths>
+#include <QTimer>
+#include <QUrl>
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+
+#include "desktop/form_table.h"
+#include "desktop/page_printer.h"
+#include "desktop/text.h"
+#include "desktop/theme.h"
+#include "desktop/windows.h"
+
+namespace tarvane {
+namespace {
+
+constexpr std::array<std::pair<Icon, QMessageBox::Icon>, 5> kIcons = {{
+    {Icon::kNone, QMessageBox::NoIcon},
+    {Icon::kInformation, QMessageBox::Information},
+    {Icon::kQuestion, QMessageBox::Question},
+    {Icon::kWarning, QMessageBox::Warning},
+    {Icon::kError, QMessageBox::Critical},
+}};
+constexpr std::array<std::pair<Answer, QMessageBox::StandardButton>, 4> kButtons = {{
+    {Answer::kYes, QMessageBox::Yes},
+    {Answer::kNo, QMessageBox::No},
+    {Answer::kOk, QMessageBox::Ok},
+    {Answer::kCancel, QMessageBox::Cancel},
+}};
+// Programs that screens ask for by a word, each with those that serve for it; the first one found is started.
+const std::array<std::pair<std::string_view, std::vector<const char*>>, 2> kPrograms = {{
+    {"calc", {"gnome-calculator", "kcalc", "galculator", "mate-calc", "qalculate-gtk", "xcalc", "calc"}},
+    {"notepad", {"gnome-text-editor", "gedit", "kwrite", "mousepad", "pluma", "xed", "featherpad", "notepad"}},
+}};
+
+template <typename From, typename To, std::size_t kCount>
+To Lookup(const std::array<std::pair<From, To>, kCount>& table, From from) {
+  for (const auto& [key, value] : table) {
+    if (key == from) return value;
+  }
+  return table.front().second;
+}
+
+QMessageBox::StandardButton ButtonOf(Answer answer) { return Lookup(kButtons, answer); }
+
+// "Links (*.tvs)|*.tvs|All|*.*" as Qt writes it.
+QString QtFilter(std::string_view filter) {
+  const QStringList parts = ToQt(filter).split('|');
+  QStringList filters;
+  for (qsizetype at = 0; at + 1 < parts.size(); at += 2) {
+    const QString name = parts[at].section('(', 0, 0).trimmed();
+    filters += QString("%1 (%2)").arg(name, QString(parts[at + 1]).replace(';', ' '));
+  }
+  return filters.join(";;");
+}
+
+QString PlaceKey(const Screen& screen) { return QString("windows/") + ToQt(screen.name()); }
+
+}  // namespace
+
+QtHost::QtHost() = default;
+QtHost::~QtHost() = default;
+
+QWidget* QtHost::TopWindow() const { return forms_.empty() ? nullptr : forms_.back()->window(); }
+
+std::unique_ptr<QWidget> QtHost::MakeWindow(Screen& screen) {
+  const auto ask = [this, &screen] {
+    // Only the top window may close: those below it wait for it.
+    if (!forms_.empty() && &forms_.back()->screen() == &screen) screen.UserClose();
+  };
+  if (screen.name() == "Form1") {
+    auto window = std::make_unique<MainWindow>();
+    window->close_asked = ask;
+    return window;
+  }
+  auto window = std::make_unique<DialogWindow>(TopWindow());
+  window->close_asked = ask;
+  window->setWindowModality(Qt::ApplicationModal);
+  return window;
+}
+
+void QtHost::RunModal(Screen& screen) {
+  const FormEntry* entry = FindForm(screen.name());
+  if (entry == nullptr) throw Fault("No window is made for the screen " + screen.name() + " yet.");
+  const std::unique_ptr<QWidget> window = MakeWindow(screen);
+  Form form(screen, window.get());
+  entry->build(form);
+  QEventLoop loop;
+  form.OnClosed([&loop] { loop.quit(); });
+  AddTextSizeKeys(window.get());
+  Place(form);
+  forms_.push_back(&form);
+  window->show();
+  form.TakeFirstFocus();
+  if (on_shown_) {
+    QTimer::singleShot(0, &form, [this, &form] { on_shown_(form); });
+  }
+  if (!screen.is_closed()) loop.exec();
+  KeepPlace(form);
+  forms_.pop_back();
+  form.Detach();
+  window->hide();
+}
+
+void QtHost::Place(const Form& form) const {
+  QWidget* window = form.window();
+  const FormEntry* entry = FindForm(form.screen().name());
+  if (remembers_ && entry->remembers_place) {
+    const QByteArray kept = QSettings().value(PlaceKey(form.screen())).toByteArray();
+    if (!kept.isEmpty() && window->restoreGeometry(kept)) return;
+  }
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  if (screen == nullptr) return;
+  const QSize room = screen->availableSize();
+  if (qobject_cast<QMainWindow*>(window) != nullptr) {
+    window->resize(std::min(room.width(), Digits(150)), std::min(room.height(), Quarters(200)));
+  } else {
+    // A form that wants another size than its pieces has set it.
+    const QSize size = window->testAttribute(Qt::WA_Resized) ? window->size() : window->sizeHint();
+    window->resize(size.boundedTo(room - QSize(0, Quarters(7))));  // less the title bar
+  }
+}
+
+void QtHost::KeepPlace(const Form& form) const {
+  if (!remembers_ || !FindForm(form.screen().name())->remembers_place) return;
+  QSettings().setValue(PlaceKey(form.screen()), form.window()->saveGeometry());
+}
+
+void QtHost::AddTextSizeKeys(QWidget* window) {
+  const auto add = [&](QList<QKeySequence> keys, std::function<int(int)> change) {
+    auto* shortcut = std::make_unique<QShortcut>(window).release();
+    shortcut->setKeys(keys);
+    QObject::connect(shortcut, &QShortcut::activated, window,
+                     [this, change] { ChangeTextSize(change(QApplication::font().pointSize())); });
+  };
+  add({QKeySequence("Ctrl++"), QKeySequence("Ctrl+=")}, [](int points) { return points + 1; });
+  add({QKeySequence("Ctrl+-")}, [](int points) { return points - 1; });
+  add({QKeySequence("Ctrl+0")}, [](int) { return Theme::kUsualTextSize; });
+}
+
+void QtHost::ChangeTextSize(int points) {
+  SetTextSize(forms_, points);
+  if (remembers_) SaveTheme(CurrentTheme());
+}
+
+void SetTextSize(const std::vector<Form*>& forms, int points) {
+  Theme theme = CurrentTheme();
+  theme.text_size = std::clamp(points, Theme::kSmallestText, Theme::kLargestText);
+  ApplyTheme(theme);
+  for (Form* form : forms) form->Resize();
+}
+
+void QtHost::Message(std::string_view title, std::string_view text, Icon icon) {
+  QMessageBox box(Lookup(kIcons, icon), ToQt(title), LinesToQt(text), QMessageBox::Ok, TopWindow());
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
+}
+
+Answer QtHost::Ask(const Question& question) {
+  QMessageBox box(Lookup(kIcons, question.icon), ToQt(question.title), LinesToQt(question.text),
+                  QMessageBox::NoButton, TopWindow());
+  box.setTextFormat(Qt::PlainText);
+  for (const Answer answer : question.answers) box.addButton(ButtonOf(answer));
+  box.setDefaultButton(ButtonOf(question.preset));
+  if (!question.answers.empty()) box.setEscapeButton(ButtonOf(question.answers.back()));
+  const int pressed = box.exec();
+  for (const Answer answer : question.answers) {
+    if (ButtonOf(answer) == pressed) return answer;
+  }
+  return question.answers.empty() ? Answer::kCancel : question.answers.back();
+}
+
+std::optional<std::string> QtHost::Input(std::string_view title, std::string_view prompt,
+                                         std::string_view initial) {
+  bool accepted = false;
+  const QString text = QInputDialog::getText(TopWindow(), ToQt(title), LinesToQt(prompt), QLineEdit::Normal,
+                                             ToQt(initial), &accepted);
+  if (!accepted) return std::nullopt;
+  return FromQt(text);
+}
+
+std::optional<std::filesystem::path> QtHost::ChooseFile(FileChoice kind, std::string_view title,
+                                                        std::string_view filter) {
+  const QString chosen =
+      kind == FileChoice::kOpen
+          ? QFileDialog::getOpenFileName(TopWindow(), ToQt(title), {}, QtFilter(filter))
+          : QFileDialog::getSaveFileName(TopWindow(), ToQt(title), {}, QtFilter(filter));
+  if (chosen.isEmpty()) return std::nullopt;
+  return std::filesystem::path(chosen.toStdU16String());
+}
+
+void QtHost::Beep() { QApplication::beep(); }
+
+void QtHost::SetBusy(bool busy) {
+  const bool is_busy = QApplication::overrideCursor() != nullptr;
+  if (busy && !is_busy) QApplication::setOverrideCursor(Qt::WaitCursor);
+  if (!busy && is_busy) QApplication::restoreOverrideCursor();
+}
+
+DateTime QtHost::Now() {
+  const QDateTime now = QDateTime::currentDateTime();
+  const QDate date = now.date();
+  const QTime time = now.time();
+  return {date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second()};
+}
+
+int QtHost::RandomDigit() { return static_cast<int>(QRandomGenerator::global()->bounded(10)); }
+
+std::string QtHost::ClipboardText() { return FromQt(QApplication::clipboard()->text()); }
+
+void QtHost::SetClipboardText(std::string_view text) { QApplication::clipboard()->setText(ToQt(text)); }
+
+void QtHost::Launch(std::string_view target) {
+  for (const auto& [word, programs] : kPrograms) {
+    if (word != target) continue;
+    for (const char* program : programs) {
+      const QString found = QStandardPaths::findExecutable(program);
+      if (!found.isEmpty() && QProcess::startDetached(found, {})) return;
+    }
+    throw Fault("No program for \"" + std::string(target) + "\" is installed.");
+  }
+  const QString text = ToQt(target);
+  const QUrl url = QFileInfo::exists(text) ? QUrl::fromLocalFile(QFileInfo(text).absoluteFilePath()) : QUrl(text);
+  if (url.scheme().isEmpty() || !QDesktopServices::openUrl(url)) {
+    throw Fault("Nothing here can open \"" + std::string(target) + "\".");
+  }
+}
+
+QPrinter& QtHost::Printer() {
+  if (!printer_) printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+  return *printer_;
+}
+
+void QtHost::PrintPages(const std::vector<PrintedPage>& pages) { PrintOn(Printer(), pages); }
+
+void QtHost::SetUpPrinter() { AskForPrinter(Printer(), TopWindow()); }
+
+void QtHost::EndProcess() {
+  for (const Form* form : forms_) KeepPlace(*form);
+  // Neither destructors nor exit handlers run: what waits to be saved is dropped.
+  std::_Exit(0);
+}
+
+}  // namespace tarvane

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "desktop/form.h"
+#include "screen/host.h"
+
+class QPrinter;
+class QWidget;
+
+namespace tarvane {
+
+// Shows screens as windows, each by its form, and gives them what they need of the platform.
+class QtHost : public Host {
+ public:
+  QtHost();
+  ~QtHost() override;
+
+  // Windows come up where they were left, and their places are kept in the worker's own settings.
+  void RememberPlaces() { remembers_ = true; }
+  // Runs when a form's window is up and drawn.
+  void OnShown(std::function<void(Form&)> action) { on_shown_ = std::move(action); }
+
+  void RunModal(Screen& screen) override;
+  void Message(std::string_view title, std::string_view text, Icon icon) override;
+  Answer Ask(const Question& question) override;
+  std::optional<std::string> Input(std::string_view title, std::string_view prompt,
+                                   std::string_view initial) override;
+  std::optional<std::filesystem::path> ChooseFile(FileChoice kind, std::string_view title,
+                                                  std::string_view filter) override;
+  void Beep() override;
+  void SetBusy(bool busy) override;
+  DateTime Now() override;
+  int RandomDigit() override;
+  std::string ClipboardText() override;
+  void SetClipboardText(std::string_view text) override;
+  void Launch(std::string_view target) override;
+  void PrintPages(const std::vector<PrintedPage>& pages) override;
+  void SetUpPrinter() override;
+  [[noreturn]] void EndProcess() override;
+
+  // The window on top; null while none is shown.
+  QWidget* TopWindow() const;
+  const std::vector<Form*>& forms() const { return forms_; }
+
+ private:
+  std::unique_ptr<QWidget> MakeWindow(Screen& screen);
+  void Place(const Form& form) const;
+  void KeepPlace(const Form& form) const;
+  void AddTextSizeKeys(QWidget* window);
+  void ChangeTextSize(int points);
+  QPrinter& Printer();
+
+  std::vector<Form*> forms_;
+  std::function<void(Form&)> on_shown_;
+  std::unique_ptr<QPrinter> printer_;
+  bool remembers_ = false;
+};
+
+// The size of the text in all open windows and in those to come.
+void SetTextSize(const std::vector<Form*>& forms, int points);
+
+}  // namespace tarvane

@@ -1,0 +1,219 @@
+#include "pdf/document_objects.h"
+
+#include <array>
+#include <cstdio>
+
+#include "pdf/line_buffer.h"
+#include "pdf/outlines.h"
+#include "pdf/text_encoding.h"
+#include "text_number/text_number.h"
+
+namespace tarvane::pdf {
+namespace {
+
+// By ViewSettings::Zoom. Object 3 is a fixed number: the first page's length object. Viewers open the first
+// page all the same, and the files have always said so.
+constexpr std::array<std::string_view, 4> kZoomLines = {
+    "/OpenAction [3 0 R /Fit]", "/OpenAction [3 0 R /FitH null]", "/OpenAction [3 0 R /XYZ null null 1]", ""};
+constexpr std::array<std::string_view, 4> kLayoutLines = {"/PageLayout /SinglePage", "/PageLayout /OneColumn",
+                                                          "/PageLayout /TwoColumnLeft", ""};
+// From the lowest bit of the preferences up.
+constexpr std::array<std::string_view, 6> kPreferenceLines = {"/HideMenubar true",  "/HideToolbar true",
+                                                              "/HideWindowUI true", "/DisplayDocTitle true",
+                                                              "/CenterWindow true", "/FitWindow true"};
+
+std::string DateText(const CalendarTime& time) {
+  char text[80];
+  std::snprintf(text, sizeof text, "%04d%02d%02d%02d%02d%02d", time.year, time.month, time.day, time.hour,
+                time.minute, time.second);
+  return text;
+}
+
+// The numbers that the objects at the end refer to each other by.
+struct Numbers {
+  std::vector<int> fonts;
+  int pages = 0;
+  int resources = 0;
+  std::vector<int> images;
+  std::vector<int> page_objects;
+  int outline_root = 0;  // 0 without bookmarks
+};
+
+// A page object's number, told before it is written: behind the pages object stand the resources and the
+// images.
+int FuturePageNumber(int pages_object, size_t images, size_t place) {
+  return pages_object + 1 + static_cast<int>(images) + static_cast<int>(place);
+}
+
+void WriteFonts(ObjectFile& file, const DocumentParts& parts, Numbers& numbers) {
+  for (size_t index = 0; index < parts.fonts.size(); ++index) {
+    numbers.fonts.push_back(file.NextNumber());
+    LineBuffer object;
+    object.Line(numbers.fonts.back(), " 0 obj").Line("<< /Type /Font").Line("/Subtype /", "Type1");
+    object.Line("/Name /F", index).Line("/BaseFont /", NameBody(parts.fonts[index]));
+    object.Line("/Encoding /", "WinAnsiEncoding").Line(">>").Line("endobj");
+    file.Write({object.bytes()});
+  }
+}
+
+void WritePages(ObjectFile& file, const DocumentParts& parts, Numbers& numbers) {
+  numbers.pages = file.NextNumber();
+  LineBuffer object;
+  object.Line(numbers.pages, " 0 obj").Line("<< /Type /Pages").Line("/Kids [");
+  for (size_t place = 1; place <= parts.pages.size(); ++place) {
+    object.Line(FuturePageNumber(numbers.pages, parts.images.size(), place), " 0 R");
+  }
+  object.Line("]").Line("/Count ", parts.pages.size()).Line(">>").Line("endobj");
+  file.Write({object.bytes()});
+}
+
+void WriteResources(ObjectFile& file, const DocumentParts& parts, Numbers& numbers) {
+  numbers.resources = file.NextNumber();
+  for (size_t place = 1; place <= parts.images.size(); ++place) {
+    numbers.images.push_back(numbers.resources + static_cast<int>(place));
+  }
+  LineBuffer object;
+  object.Line(numbers.resources, " 0 obj").Line("<< /ProcSet [ /PDF /Text /ImageC]").Line("/XObject << ");
+  for (size_t index = 0; index < numbers.images.size(); ++index) {
+    object.Line("/ImgJPEG", index + 1, " ", numbers.images[index], " 0 R");
+  }
+  object.Line(">>").Line("/Font << ");
+  for (size_t index = 0; index < numbers.fonts.size(); ++index) {
+    object.Line("/F", index, " ", numbers.fonts[index], " 0 R ");
+  }
+  object.Line(">>").Line(">>").Line("endobj");
+  file.Write({object.bytes()});
+}
+
+void WriteImages(ObjectFile& file, const DocumentParts& parts) {
+  size_t place = 0;
+  for (const Image& image : parts.images) {
+    LineBuffer head;
+    head.Line(file.NextNumber(), " 0 obj").Line("<</Type /XObject").Line("/Subtype /Image");
+    head.Line("/Filter [/DCTDecode ]").Line("/Width ", image.info.width).Line("/Height ", image.info.height);
+    head.Line("/ColorSpace /", image.info.color_space)
+        .Line("/BitsPerComponent ", image.info.bits_per_component);
+    head.Line("/Length ", image.bytes.size()).Line("/Name /ImgJPEG", ++place, ">>").Line("stream");
+    LineBuffer tail;
+    tail.Line().Line("endstream").Line("endobj");
+    file.Write({head.bytes(), image.bytes, tail.bytes()});
+  }
+}
+
+void AppendLinks(LineBuffer& object, const std::vector<Link>& links) {
+  if (links.empty()) return;
+  object.Line("/Annots [");
+  for (const Link& link : links) {
+    object.Line("<</Type /Annot /Subtype /Link /Rect [", Fixed{link.area.left}, " ", Fixed{link.area.bottom},
+                " ", Fixed{link.area.right}, " ", Fixed{link.area.top}, "] /Border [0 0 0] ",
+                "/A <</S /URI /URI (", StringBody(link.address), ")>>>>");
+  }
+  object.Line("]");
+}
+
+void WritePageObjects(ObjectFile& file, const DocumentParts& parts, Numbers& numbers) {
+  for (const Page& page : parts.pages) {
+    numbers.page_objects.push_back(file.NextNumber());
+    LineBuffer object;
+    object.Line(numbers.page_objects.back(), " 0 obj").Line("<< /Type /Page");
+    object.Line("/Parent ", numbers.pages, " 0 R")
+        .Line("/MediaBox [ 0 0 ", page.width, " ", page.height, "]");
+    object.Line("/Resources ", numbers.resources, " 0 R");
+    AppendLinks(object, page.links);
+    // The stream of page p is object 2p, and its length object the one behind it.
+    object.Line("/Contents ", 2 * numbers.page_objects.size(), " 0 R").Line(">>").Line("endobj");
+    file.Write({object.bytes()});
+  }
+}
+
+int PageObjectOf(const Bookmark& bookmark, const Numbers& numbers) {
+  const auto page = static_cast<size_t>(bookmark.page);
+  return page >= 1 && page <= numbers.page_objects.size() ? numbers.page_objects[page - 1] : 0;
+}
+
+void WriteOutlines(ObjectFile& file, const DocumentParts& parts, Numbers& numbers) {
+  if (parts.bookmarks.empty()) return;
+  std::vector<int> levels;
+  for (const Bookmark& bookmark : parts.bookmarks) levels.push_back(bookmark.level);
+  const Outline outline = LinkOutline(levels);
+  const int first_number = file.last_number() + 1;
+  numbers.outline_root = first_number + static_cast<int>(levels.size());
+  const auto number_of = [&](int index) { return index < 0 ? numbers.outline_root : first_number + index; };
+  for (size_t index = 0; index < parts.bookmarks.size(); ++index) {
+    const Bookmark& bookmark = parts.bookmarks[index];
+    const OutlineNode& node = outline.nodes[index];
+    const std::pair<std::string_view, int> relations[] = {
+        {"/Prev ", node.previous}, {"/Next ", node.next}, {"/First ", node.first}, {"/Last ", node.last}};
+    LineBuffer object;
+    object.Line(file.NextNumber(), " 0 obj").Line("<</Title (", StringBody(bookmark.title), ")");
+    object.Line("/Parent ", number_of(node.parent), " 0 R");
+    for (const auto& [key, other] : relations) {
+      if (other >= 0) object.Line(key, number_of(other), " 0 R");
+    }
+    object.Line("/Dest [", PageObjectOf(bookmark, numbers), " 0 R /XYZ 0 ", Fixed{bookmark.y}, " null]");
+    object.Line("/Count 0>>").Line("endobj");
+    file.Write({object.bytes()});
+  }
+  LineBuffer root;
+  root.Line(file.NextNumber(), " 0 obj").Line("<</Type /Outlines /First ", number_of(outline.first), " 0 R");
+  root.Line("/Last ", number_of(outline.last), " 0 R>>").Line("endobj");
+  file.Write({root.bytes()});
+}
+
+void AppendView(LineBuffer& object, const ViewSettings& view, int outline_root) {
+  if (view.zoom == ViewSettings::kPercentage) {
+    object.Line("/OpenAction [3 0 R /XYZ null null ", NumberText(view.percentage / 100), "]");
+  } else if (const auto line = kZoomLines[static_cast<size_t>(view.zoom)]; !line.empty()) {
+    object.Line(line);
+  }
+  if (const auto line = kLayoutLines[static_cast<size_t>(view.layout)]; !line.empty()) object.Line(line);
+  if (view.use_thumbs) object.Line("/PageMode /UseThumbs");
+  if (view.use_outlines && outline_root != 0) {
+    object.Line("/Outlines ", outline_root, " 0 R").Line("/PageMode /UseOutlines");
+  }
+  if (!view.preferences) return;
+  object.Line("/ViewerPreferences<<");
+  for (size_t bit = 0; bit < kPreferenceLines.size(); ++bit) {
+    if (*view.preferences & 1 << bit) object.Line(kPreferenceLines[bit]);
+  }
+  object.Line(">>");
+}
+
+int WriteCatalog(ObjectFile& file, const DocumentParts& parts, const Numbers& numbers) {
+  const int number = file.NextNumber();
+  LineBuffer object;
+  object.Line(number, " 0 obj").Line("<<").Line("/Type /Catalog").Line("/Pages ", numbers.pages, " 0 R");
+  AppendView(object, parts.view, numbers.outline_root);
+  object.Line(">>").Line("endobj");
+  file.Write({object.bytes()});
+  return number;
+}
+
+}  // namespace
+
+void WriteInformation(ObjectFile& file, const Information& information, const CalendarTime& created) {
+  LineBuffer object;
+  object.Line(file.NextNumber(), " 0 obj").Line("<<");
+  object.Line("/Producer (", StringBody(information.producer), ")");
+  object.Line("/Author (", StringBody(information.author), ")");
+  object.Line("/CreationDate (D:", DateText(created), ")");
+  object.Line("/Creator (", StringBody(information.creator), ")");
+  object.Line("/Keywords (", StringBody(information.keywords), ")");
+  object.Line("/Subject (", StringBody(information.subject), ")");
+  object.Line("/Title (", StringBody(information.title), ")");
+  object.Line("/ModDate ()").Line(">>").Line("endobj");
+  file.Write({object.bytes()});
+}
+
+void WriteEnd(ObjectFile& file, const DocumentParts& parts) {
+  Numbers numbers;
+  WriteFonts(file, parts, numbers);
+  WritePages(file, parts, numbers);
+  WriteResources(file, parts, numbers);
+  WriteImages(file, parts);
+  WritePageObjects(file, parts, numbers);
+  WriteOutlines(file, parts, numbers);
+  file.Finish(WriteCatalog(file, parts, numbers));
+}
+
+}  // namespace tarvane::pdf

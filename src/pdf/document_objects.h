@@ -1,0 +1,89 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "pdf/jpeg.h"
+#include "pdf/object_file.h"
+
+// The objects of a file that aren't a page's stream: what goes into them, and their writing. Places and sizes
+// here are points, from the bottom left of the page.
+namespace tarvane::pdf {
+
+struct CalendarTime {
+  int year = 1970;
+  int month = 1;
+  int day = 1;
+  int hour = 0;
+  int minute = 0;
+  int second = 0;
+};
+
+// Any of the texts may be empty.
+struct Information {
+  std::string producer;
+  std::string author;
+  std::string creator;
+  std::string keywords;
+  std::string subject;
+  std::string title;
+};
+
+struct Area {
+  double left = 0;
+  double bottom = 0;
+  double right = 0;
+  double top = 0;
+};
+
+struct Link {
+  Area area;
+  std::string address;
+};
+
+struct Page {
+  int width = 0;  // with the height 0 as well: no size of its own
+  int height = 0;
+  bool landscape = false;
+  std::vector<Link> links;
+};
+
+struct Image {
+  JpegInfo info;
+  std::string bytes;
+};
+
+struct Bookmark {
+  std::string title;
+  int level = 0;  // 0 is the outermost
+  int page = 0;   // from 1
+  double y = 0;
+};
+
+// How a viewer is to open the file.
+struct ViewSettings {
+  enum Zoom { kFullPage, kFullWidth, kRealSize, kDefault, kPercentage };
+  Zoom zoom = kFullPage;
+  double percentage = 100;
+  int layout = 0;
+  bool use_thumbs = false;
+  bool use_outlines = false;
+  std::optional<int> preferences;
+};
+
+// Everything that the end of a file is written from.
+struct DocumentParts {
+  const std::vector<std::string>& fonts;
+  const std::vector<Image>& images;
+  const std::vector<Page>& pages;
+  const std::vector<Bookmark>& bookmarks;
+  const ViewSettings& view;
+};
+
+// Object 1, behind the header.
+void WriteInformation(ObjectFile& file, const Information& information, const CalendarTime& created);
+// Fonts, pages, resources, images, page objects, outlines and catalog, the table and the end of the file.
+void WriteEnd(ObjectFile& file, const DocumentParts& parts);
+
+}  // namespace tarvane::pdf

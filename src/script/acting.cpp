@@ -1,0 +1,163 @@
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <charconv>
+#include <chrono>
+
+#include "script/interpreter.h"
+
+namespace tarvane {
+namespace {
+
+// As much of the text as fits into the field, in characters of UTF-8.
+std::string_view Fitting(std::string_view text, int max_length) {
+  if (max_length <= 0) return text;
+  int characters = 0;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const bool begins = (static_cast<unsigned char>(text[at]) & 0xC0) != 0x80;
+    if (begins && ++characters > max_length) return text.substr(0, at);
+  }
+  return text;
+}
+
+// "2026-12-24".
+std::optional<Calendar::Day> ParseDay(std::string_view text) {
+  if (text.size() != 10 || text[4] != '-' || text[7] != '-') return std::nullopt;
+  const auto part = [text](std::size_t at, std::size_t size) {
+    int number = -1;
+    const auto [end, error] = std::from_chars(text.data() + at, text.data() + at + size, number);
+    return error == std::errc() && end == text.data() + at + size ? number : -1;
+  };
+  const Calendar::Day day = {part(0, 4), part(5, 2), part(8, 2)};
+  if (day.year < 0 || day.month < 0 || day.day < 0) return std::nullopt;
+  const std::chrono::year_month_day date{std::chrono::year(day.year),
+                                         std::chrono::month(static_cast<unsigned>(day.month)),
+                                         std::chrono::day(static_cast<unsigned>(day.day))};
+  if (!date.ok()) return std::nullopt;
+  return day;
+}
+
+[[noreturn]] void NoEntry(const Argument& address, const Control& control, const std::string& text,
+                          const std::vector<std::string>& entries) {
+  std::string message = fmt::format("{} has no entry {}", Place(address, control), InQuotes(text));
+  if (!entries.empty()) message += fmt::format("; did you mean {}?", InQuotes(Nearest(text, entries)));
+  throw ScriptError(message);
+}
+
+std::size_t FindEntry(const Argument& address, const Control& control, const std::string& text,
+                      const std::vector<std::string>& entries) {
+  const auto entry = std::ranges::find(entries, text);
+  if (entry == entries.end()) NoEntry(address, control, text, entries);
+  return static_cast<std::size_t>(entry - entries.begin());
+}
+
+std::int64_t RowOf(const Argument& address, const Argument& word, const Control& control, std::int64_t first,
+                   std::int64_t last) {
+  const std::int64_t row = WholeNumber(word);
+  if (row < first || row > last) {
+    throw ScriptError(fmt::format("{} has no row {} (there are {})", Place(address, control), row, last));
+  }
+  return row;
+}
+
+}  // namespace
+
+void Interpreter::RequireUsable(const Argument& address, const Control& control) const {
+  const std::string place = Place(address, control);
+  if (&control.screen() != &top()) {
+    throw ScriptError(fmt::format("{} can't be used: {} is on top", place, top().name()));
+  }
+  if (control.never_shown()) throw ScriptError(place + " is never shown");
+  if (!control.visible()) throw ScriptError(place + " is hidden");
+  if (!control.enabled()) throw ScriptError(place + " is disabled");
+}
+
+void Interpreter::Type(Arguments arguments) {
+  auto& field = Usable<TextField>(arguments[0], "a field");
+  const auto* list = dynamic_cast<const DropDownList*>(&field);
+  if (field.read_only()) throw ScriptError(Place(arguments[0], field) + " is read-only");
+  if (list != nullptr && !list->typing_allowed()) {
+    throw ScriptError(Place(arguments[0], field) + " takes only its entries: choose one");
+  }
+  field.UserType(Fitting(arguments[1].text, field.max_length()));
+}
+
+void Interpreter::Enter(Arguments arguments) { Usable<TextField>(arguments[0], "a field").UserEnterKey(); }
+
+void Interpreter::Focus(Arguments arguments) { Usable<Control>(arguments[0], "a control").UserFocus(); }
+
+void Interpreter::Leave(Arguments arguments) { Usable<Control>(arguments[0], "a control").UserLeave(); }
+
+void Interpreter::Press(Arguments arguments) {
+  Control* found = FindControls(arguments[0], host_.open_screens()).front();
+  if (auto* label = dynamic_cast<Label*>(found); label != nullptr && label->clickable()) {
+    RequireUsable(arguments[0], *label);
+    label->UserClick();
+    return;
+  }
+  Usable<Button>(arguments[0], "a button").UserPress();
+}
+
+void Interpreter::SetBox(const Argument& address, bool on) {
+  Usable<TickBox>(address, "a tick box or a round option").UserSet(on);
+}
+
+void Interpreter::Tick(Arguments arguments) { SetBox(arguments[0], true); }
+
+void Interpreter::Untick(Arguments arguments) { SetBox(arguments[0], false); }
+
+void Interpreter::ChooseEntry(const Argument& address, Control& control, const std::string& text) const {
+  if (auto* drop_down = dynamic_cast<DropDownList*>(&control)) {
+    if (drop_down->read_only()) throw ScriptError(Place(address, control) + " is read-only");
+    drop_down->UserPick(FindEntry(address, control, text, drop_down->entries()));
+  } else if (auto* list = dynamic_cast<ListBox*>(&control)) {
+    list->UserPick(static_cast<int>(FindEntry(address, control, text, list->entries())));
+  } else if (auto* tabs = dynamic_cast<TabStrip*>(&control)) {
+    std::vector<std::string> captions;
+    std::ranges::transform(tabs->captions(), std::back_inserter(captions), PlainCaption);
+    tabs->UserSelect(static_cast<int>(FindEntry(address, control, PlainCaption(text), captions)));
+  } else if (auto* calendar = dynamic_cast<Calendar*>(&control)) {
+    const std::optional<Calendar::Day> day = ParseDay(text);
+    if (!day) throw ScriptError(fmt::format("{} takes a day such as 2026-12-24", Place(address, control)));
+    calendar->UserClick(*day);
+  } else {
+    throw ScriptError(
+        fmt::format("{} is {}, not a list, tabs or a calendar", Place(address, control), KindOf(control)));
+  }
+}
+
+void Interpreter::Choose(Arguments arguments) {
+  auto& control = Usable<Control>(arguments[0], "a list");
+  ChooseEntry(arguments[0], control, arguments[1].text);
+}
+
+void Interpreter::Select(Arguments arguments) {
+  auto& control = Usable<Control>(arguments[0], "a grid");
+  if (auto* list = dynamic_cast<ListBox*>(&control)) {
+    const auto last = static_cast<std::int64_t>(list->entries().size());
+    list->UserPick(static_cast<int>(RowOf(arguments[0], arguments[1], control, 1, last)) - 1);
+    return;
+  }
+  auto& grid = Usable<Grid>(arguments[0], "a grid or a list");
+  grid.UserSelectRow(RowOf(arguments[0], arguments[1], control, 0, grid.RowCount()));
+}
+
+void Interpreter::Open(Arguments arguments) {
+  auto& control = Usable<Control>(arguments[0], "a grid");
+  if (auto* list = dynamic_cast<ListBox*>(&control)) {
+    const std::int64_t row = WholeNumber(arguments[1]);
+    const bool on_entry = row >= 1 && row <= static_cast<std::int64_t>(list->entries().size());
+    list->UserOpen(on_entry ? static_cast<int>(row) - 1 : -1);
+    return;
+  }
+  auto& grid = Usable<Grid>(arguments[0], "a grid or a list");
+  grid.UserOpenRow(RowOf(arguments[0], arguments[1], control, 0, grid.RowCount()));
+}
+
+void Interpreter::Close(Arguments) { top().UserClose(); }
+
+void Interpreter::AnswerNext(Arguments arguments) { host_.QueueAnswer(arguments[0].text); }
+
+void Interpreter::CancelNext(Arguments) { host_.QueueCancel(); }
+
+}  // namespace tarvane

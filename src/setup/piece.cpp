@@ -1,0 +1,80 @@
+#include "setup/piece.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <string_view>
+
+#include "setup/data_folder.h"
+#include "setup/first_rows.h"
+#include "store/data_files.h"
+#include "store/database.h"
+#include "store/table_definition.h"
+
+namespace tarvane {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// Stand in the data folder under the same names.
+constexpr std::string_view kTextFiles[] = {
+    data_file::kSettings,      data_file::kCheckListCaptions, data_file::kWizardOptions,
+    data_file::kCurtainList,   data_file::kTieBacksList,      data_file::kTieBacksStyleList,
+    data_file::kTrimmingsList, data_file::kCheckList,         data_file::kSalesPersonsList,
+};
+constexpr std::string_view kFontsFolder = "Fonts";
+
+void MakeDatabase(const fs::path& file, std::string_view name, const fs::path& data) {
+  Database database(file, Database::Mode::kCreate);
+  Database::Transaction transaction(database);
+  for (const TableDefinition& table : TableDefinitions()) {
+    if (table.file != name) continue;
+    CreateTable(database, table);
+    AddFirstRow(database, table, data);
+  }
+  transaction.Commit();
+}
+
+void AddDatabases(std::vector<Piece>& pieces, const fs::path& data) {
+  std::vector<std::string_view> names;
+  for (const TableDefinition& table : TableDefinitions()) {
+    if (std::ranges::find(names, table.file) == names.end()) names.push_back(table.file);
+  }
+  for (const std::string_view name : names) {
+    pieces.push_back(
+        {std::string(name), [name, data](const fs::path& file) { MakeDatabase(file, name, data); }});
+  }
+}
+
+void AddTextFiles(std::vector<Piece>& pieces, const fs::path& data) {
+  for (const std::string_view name : kTextFiles) {
+    pieces.push_back({std::string(name), [name, data](const fs::path& file) {
+                        ReplaceFile(file, JoinLines(SplitLines(ReadDataFile(data / name))));
+                      }});
+  }
+}
+
+void AddFonts(std::vector<Piece>& pieces, const fs::path& data) {
+  std::error_code error;
+  std::vector<fs::path> sources;
+  for (const auto& entry : fs::directory_iterator(data / kFontsFolder, error))
+    sources.push_back(entry.path());
+  std::ranges::sort(sources);
+  for (const fs::path& source : sources) {
+    pieces.push_back({fmt::format("{}/{}", kFontsFolder, source.filename().string()),
+                      [source](const fs::path& file) { ReplaceFile(file, ReadDataFile(source)); }});
+  }
+}
+
+}  // namespace
+
+std::vector<Piece> Pieces(const fs::path& data) {
+  std::vector<Piece> pieces;
+  AddDatabases(pieces, data);
+  AddTextFiles(pieces, data);
+  AddFonts(pieces, data);
+  return pieces;
+}
+
+}  // namespace tarvane

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+
+#include "screen/host.h"
+
+namespace tarvane {
+
+// A host for a program that runs by itself: each screen that is shown is served by the function that waits
+// for it. Information is passed over; what would need a person (a question, a warning, a file choice) is a
+// Fault.
+class QuietHost : public Host {
+ public:
+  using Worker = std::function<void(Screen&)>;
+
+  // Serves the next showing of the screen of that name; a former one for it is replaced.
+  void Await(std::string screen_name, Worker worker);
+  void SetNow(const DateTime& now) { now_ = now; }
+
+  void RunModal(Screen& screen) override;  // faults where none waits for it
+  void Message(std::string_view title, std::string_view text, Icon icon) override;
+  Answer Ask(const Question& question) override;
+  std::optional<std::string> Input(std::string_view title, std::string_view prompt,
+                                   std::string_view initial) override;
+  std::optional<std::filesystem::path> ChooseFile(FileChoice kind, std::string_view title,
+                                                  std::string_view filter) override;
+  void Beep() override {}
+  void SetBusy(bool) override {}
+  DateTime Now() override { return now_; }
+  int RandomDigit() override { return 0; }
+  std::string ClipboardText() override { return {}; }
+  void SetClipboardText(std::string_view) override {}
+  void Launch(std::string_view target) override;
+  void PrintPages(const std::vector<PrintedPage>& pages) override;
+  void SetUpPrinter() override {}
+  [[noreturn]] void EndProcess() override;
+
+ private:
+  std::map<std::string, Worker, std::less<>> workers_;
+  DateTime now_;
+};
+
+}  // namespace tarvane

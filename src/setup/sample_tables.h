@@ -1,0 +1,79 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+// What the sample shop is made of. All people, towns and firms are invented; telephone numbers are of the
+// ranges that are kept free for such.
+namespace tarvane {
+
+struct SampleCustomer {
+  std::string_view name;
+  std::string_view company;
+  std::string_view address;
+  std::string_view town;
+  std::string_view post_code;
+  std::string_view email;
+  std::string_view web_site;
+  std::string_view notes;  // about the job
+};
+
+struct SampleLining {
+  std::string_view name;  // blank: not needed
+  std::string_view price;
+};
+
+struct SampleTieBacks {
+  std::string_view size;  // blank: not needed
+  std::string_view style;
+  std::string_view price;  // for one
+};
+
+struct SampleTrim {
+  std::string_view kind;  // "Border" or "Trimming"; blank: not needed
+  std::string_view description;
+  std::string_view name;
+  std::string_view placement;  // the wizard's tick box
+  bool by_widths;
+  std::string_view border_size;  // inches
+  std::string_view price;        // a metre
+};
+
+// One window as it is typed into the curtain wizard. Measures are inches or centimetres, by `inches`.
+struct SampleWindow {
+  std::string_view description;
+  std::string_view style;
+  bool inches;
+  int track;  // varied a little from job to job
+  std::string_view length;
+  std::string_view fabric_width;
+  std::string_view repeat;  // "0": plain fabric
+  std::string_view fullness;
+  bool round_up;
+  std::string_view auto_measure;  // the wizard's option; blank: none
+  std::string_view fabric;
+  std::string_view fabric_price;
+  std::string_view tape_price;
+  SampleTieBacks tie_backs;
+  SampleLining lining;
+  bool lining_by_metres;
+  SampleLining interlining;
+  SampleTrim trim;
+  std::string_view labour_price;
+  std::string_view tie_back_labour;
+  std::string_view extra_labour_text;  // blank: none
+  std::string_view extra_labour;
+  std::string_view vat_rate;  // blank: prices hold it already
+};
+
+struct SampleSingle {
+  int quantity;
+  std::string_view description;
+  int pence;  // for one
+};
+
+std::span<const SampleCustomer> SampleCustomers();
+std::span<const SampleWindow> SampleWindows();
+std::span<const SampleSingle> SampleSingles();
+
+}  // namespace tarvane

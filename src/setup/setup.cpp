@@ -1,0 +1,128 @@
+#include "setup/setup.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <string>
+#include <system_error>
+#include <vector>
+
+#include "setup/piece.h"
+#include "setup/sample_shop.h"
+#include "store/data_files.h"
+#include "text_number/fault.h"
+
+namespace tarvane {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view kSampleName = "sample shop";
+
+[[noreturn]] void ThrowFault(std::string_view what, const fs::path& path, const std::error_code& error) {
+  throw Fault(fmt::format("{} {}: {}.", what, path.string(), error.message()));
+}
+
+// Makes the folder and its parents; true where it wasn't there.
+bool MakeFolder(const fs::path& folder) {
+  std::error_code error;
+  const bool created = fs::create_directories(folder, error);
+  if (!error && !fs::is_directory(folder)) error = std::make_error_code(std::errc::not_a_directory);
+  if (error) ThrowFault("Cannot create the folder", folder, error);
+  return created;
+}
+
+// A folder of its own inside the program folder, so that what is made in it can be moved by a rename. It
+// goes, with all that is still in it, at the end.
+class StagingFolder {
+ public:
+  explicit StagingFolder(const fs::path& folder) {
+    std::string name = (folder / ".tarvane-setup-XXXXXX").string();
+    if (mkdtemp(name.data()) == nullptr) {
+      ThrowFault("Cannot write into the folder", folder, {errno, std::generic_category()});
+    }
+    path_ = name;
+  }
+  ~StagingFolder() {
+    std::error_code ignored;
+    fs::remove_all(path_, ignored);
+  }
+  StagingFolder(const StagingFolder&) = delete;
+  StagingFolder& operator=(const StagingFolder&) = delete;
+  const fs::path& path() const { return path_; }
+
+ private:
+  fs::path path_;
+};
+
+bool IsThere(const fs::path& folder, const Piece& piece) {
+  const fs::path file = FindFile(folder, piece.name);
+  std::error_code error;
+  const fs::file_status status = fs::status(file, error);
+  if (fs::is_directory(status))
+    throw Fault(fmt::format("{} is a folder; a file should be there.", file.string()));
+  if (status.type() == fs::file_type::none) ThrowFault("Cannot look at", file, error);
+  return fs::exists(fs::symlink_status(file, error));
+}
+
+void Stage(const fs::path& staging, const std::vector<Piece>& pieces) {
+  for (const Piece& piece : pieces) {
+    const fs::path file = staging / piece.name;
+    MakeFolder(file.parent_path());
+    piece.make(file);
+  }
+}
+
+void Publish(const fs::path& staging, const fs::path& folder, const Piece& piece) {
+  const fs::path target = FindFile(folder, piece.name);
+  MakeFolder(target.parent_path());
+  std::error_code error;
+  fs::rename(staging / piece.name, target, error);
+  if (error) ThrowFault("Cannot create", target, error);
+}
+
+// What is missing is made and moved into place; the sample shop needs the whole folder to be made in.
+void LayDown(const SetupOptions& options, const std::vector<Piece>& pieces, const std::vector<bool>& there,
+             bool sample, const SetupReport& report) {
+  std::vector<Piece> missing;
+  for (std::size_t i = 0; i < pieces.size(); ++i) {
+    if (!there[i]) missing.push_back(pieces[i]);
+  }
+  const auto publish = [&](const fs::path& staging) {
+    for (std::size_t i = 0; i < pieces.size(); ++i) {
+      if (!there[i]) Publish(staging, options.folder, pieces[i]);
+      report(pieces[i].name, there[i] ? SetupResult::kKept : SetupResult::kCreated);
+    }
+  };
+  if (missing.empty()) return publish({});
+  const StagingFolder staging(options.folder);
+  Stage(staging.path(), sample ? pieces : missing);
+  if (sample) FillSampleShop(staging.path());
+  publish(staging.path());
+}
+
+}  // namespace
+
+void SetUpFolder(const SetupOptions& options, const SetupReport& report) {
+  const bool created = MakeFolder(options.folder);
+  try {
+    const std::vector<Piece> pieces = Pieces(options.data);
+    std::vector<bool> there;
+    bool jobs_there = false;
+    for (const Piece& piece : pieces) {
+      there.push_back(IsThere(options.folder, piece));
+      if (piece.name == data_file::kJobs) jobs_there = there.back();
+    }
+    LayDown(options, pieces, there, options.sample && !jobs_there, report);
+    if (options.sample) report(kSampleName, jobs_there ? SetupResult::kSkipped : SetupResult::kCreated);
+  } catch (...) {
+    std::error_code ignored;
+    if (created) fs::remove(options.folder, ignored);
+    throw;
+  }
+}
+
+}  // namespace tarvane

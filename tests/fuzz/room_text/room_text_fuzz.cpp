@@ -1,0 +1,76 @@
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "job/room_text.h"
+
+namespace tarvane {
+namespace {
+
+void Require(bool holds) {
+  if (!holds) std::abort();
+}
+
+// Reads item lines the plain way, letter by letter, as the format is written up in docs/job-record.md.
+std::vector<HeldGrid::Row> ReadPlainly(std::string_view text, std::size_t fields) {
+  std::vector<HeldGrid::Row> rows;
+  std::vector<std::string> kept(fields);
+  std::string line;
+  std::string field;
+  for (const char letter : TrimSpaces(text)) {
+    if (letter != '\n') {
+      line += letter;
+      continue;
+    }
+    while (!line.empty() && (line.back() & 0xC0) == 0x80 && line.size() > 1) line.pop_back();
+    if (!line.empty()) line.pop_back();
+    std::size_t count = 0;
+    for (const char in_line : line) {
+      if (count == fields) break;
+      if (in_line != '|') {
+        field += in_line;
+        continue;
+      }
+      kept[count++] = field;
+      field.clear();
+    }
+    line.clear();
+    rows.push_back({std::to_string(rows.size() + 1)});
+    rows.back().insert(rows.back().end(), kept.begin(), kept.end());
+  }
+  return rows;
+}
+
+bool IsWellFormed(const std::vector<HeldGrid::Row>& rows) {
+  for (const HeldGrid::Row& row : rows) {
+    for (const std::string& cell : row) {
+      if (cell.find_first_of("|\n") != std::string::npos) return false;
+    }
+  }
+  // The first field's leading spaces would go with the outer spaces of the text.
+  return rows.empty() || !rows.front()[1].starts_with(' ');
+}
+
+void Check(std::string_view text, const LineLayout& layout) {
+  const ItemLines lines(text, layout);
+  const auto rows = lines.Rows();
+  Require(rows == ReadPlainly(text, layout.fields));
+  Require(!lines.RunningTotal("0.00").empty());
+  CompileRoomSummary(rows);
+  if (!IsWellFormed(rows)) return;
+  const std::string written = WriteItemLines(rows, layout);
+  Require(ItemLines(written, layout).Rows() == rows);
+  Require(WriteItemLines(ItemLines(written, layout).Rows(), layout) == written);
+}
+
+}  // namespace
+}  // namespace tarvane
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string text(reinterpret_cast<const char*>(data), size);
+  tarvane::Check(text, tarvane::kRoomItemLayout);
+  tarvane::Check(text, tarvane::kSingleItemLayout);
+  return 0;
+}

@@ -1,0 +1,100 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "screen/screen.h"
+
+namespace tarvane {
+
+// What FakeHost::EndProcess throws; no Fault, so that nothing but a test catches it.
+struct ProcessEnd {};
+
+// A host without a worker: it records what the program says and answers from queues. A question, an input box
+// or a file choice without a waiting answer is an error that ends the test.
+class FakeHost : public Host {
+ public:
+  // What to do with each screen that is shown, in turn. After its step a screen is closed, unasked; one
+  // without a step at once.
+  std::deque<std::function<void(Screen&)>> shows;
+  std::vector<std::string> shown;  // names, in order
+
+  std::deque<Answer> answers;
+  std::deque<std::optional<std::string>> inputs;
+  std::deque<std::optional<std::filesystem::path>> files;
+
+  std::vector<std::string> messages;  // texts, in order
+  std::vector<std::string> titles;    // their titles
+  std::vector<Question> questions;
+  std::vector<std::string> launched;
+  std::vector<PrintedPage> printed;
+  std::string clipboard;
+  DateTime now = {2026, 3, 9, 14, 5, 0};
+  int beeps = 0;
+  int busy = 0;        // now
+  int busy_times = 0;  // how often it was switched on
+  int printer_setups = 0;
+
+  // The same with the screen's own class: host.OnShow<frmSplash>([](frmSplash& splash) { ... });
+  template <typename Shown>
+  void OnShow(std::function<void(Shown&)> step) {
+    shows.emplace_back([step = std::move(step)](Screen& screen) { step(dynamic_cast<Shown&>(screen)); });
+  }
+
+  void RunModal(Screen& screen) override {
+    shown.push_back(screen.name());
+    if (!shows.empty()) {
+      const auto step = std::move(shows.front());
+      shows.pop_front();
+      step(screen);
+    }
+    screen.Close();
+  }
+  void Message(std::string_view title, std::string_view text, Icon) override {
+    titles.emplace_back(title);
+    messages.emplace_back(text);
+  }
+  Answer Ask(const Question& question) override {
+    questions.push_back(question);
+    return Take(answers, question.text);
+  }
+  std::optional<std::string> Input(std::string_view, std::string_view prompt, std::string_view) override {
+    return Take(inputs, prompt);
+  }
+  std::optional<std::filesystem::path> ChooseFile(FileChoice, std::string_view title,
+                                                  std::string_view) override {
+    return Take(files, title);
+  }
+  void Beep() override { ++beeps; }
+  void SetBusy(bool on) override {
+    busy += on ? 1 : -1;
+    busy_times += on ? 1 : 0;
+  }
+  DateTime Now() override { return now; }
+  int RandomDigit() override { return digit_ = (digit_ + 7) % 10; }
+  std::string ClipboardText() override { return clipboard; }
+  void SetClipboardText(std::string_view text) override { clipboard = text; }
+  void Launch(std::string_view target) override { launched.emplace_back(target); }
+  void PrintPages(const std::vector<PrintedPage>& pages) override {
+    printed.insert(printed.end(), pages.begin(), pages.end());
+  }
+  void SetUpPrinter() override { ++printer_setups; }
+  [[noreturn]] void EndProcess() override { throw ProcessEnd{}; }
+
+ private:
+  template <typename T>
+  static T Take(std::deque<T>& queue, std::string_view asked) {
+    if (queue.empty()) throw std::logic_error("no answer waits for: " + std::string(asked));
+    T taken = std::move(queue.front());
+    queue.pop_front();
+    return taken;
+  }
+
+  int digit_ = 0;
+};
+
+}  // namespace tarvane
