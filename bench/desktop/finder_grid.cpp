@@ -1,13 +1,13 @@
-// desktop_finder_grid FOLDER: how long the finder's grid takes, over the shop in FOLDER, for a page down, a row
-// down, and to the end and back, each with its drawing. Medians and the longest of all.
+// desktop_finder_grid FOLDER: how long the finder's grid takes, over the shop in FOLDER, for a page down, a
+// row down, and to the end and back, each with its drawing. Medians and the longest of all.
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QTableView>
 #include <QTest>
-#include <cstdlib>
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <vector>
 
 #include "app/main_screen.h"
@@ -84,8 +84,9 @@ int main(int argc, char** argv) {
   tarvane::MainScreen screen(host, argv[1]);
   host.OnShown([&screen](tarvane::Form& form) {
     if (&form.screen() == &screen) {
+      form.window()->setWindowState(Qt::WindowNoState);
       form.window()->resize(1366, 768);
-      QTest::qWaitForWindowExposed(form.window());
+      if (!QTest::qWaitForWindowExposed(form.window())) std::exit(1);
       tarvane::Measure(*qobject_cast<QTableView*>(form.WidgetOf(screen.QuickFinderGrid)));
     }
     form.screen().Close();

@@ -59,7 +59,8 @@ Start RunOnce(const std::vector<std::string>& command) {
   waitpid(process, nullptr, 0);
   const std::size_t memory = line.find("peak memory ");
   if (memory == std::string::npos) Give(command[0] + " told no first paint");
-  return {std::chrono::duration<double, std::milli>(end - begin).count(), std::stod(line.substr(memory + 12))};
+  return {std::chrono::duration<double, std::milli>(end - begin).count(),
+          std::stod(line.substr(memory + 12))};
 }
 
 double Median(std::vector<double> values) {
@@ -96,7 +97,8 @@ int main(int argc, char** argv) {
   const double time = Median(program.milliseconds);
   const double bare_memory = Median(bare.kibibytes);
   const double memory = Median(program.kibibytes);
-  std::printf("first paint: bare window %.1f ms, tarvane %.1f ms, ratio %.2f\n", bare_time, time, time / bare_time);
+  std::printf("first paint: bare window %.1f ms, tarvane %.1f ms, ratio %.2f\n", bare_time, time,
+              time / bare_time);
   std::printf("peak memory: bare window %.0f KiB, tarvane %.0f KiB, ratio %.2f\n", bare_memory, memory,
               memory / bare_memory);
   return 0;

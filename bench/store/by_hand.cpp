@@ -8,11 +8,13 @@ namespace tarvane {
 
 ByHand::ByHand(const std::filesystem::path& file) {
   sqlite3* handle = nullptr;
-  const int code = sqlite3_open_v2(file.c_str(), &handle, SQLITE_OPEN_READWRITE, nullptr);
+  const int code =
+      sqlite3_open_v2(file.c_str(), &handle, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
   handle_.reset(handle);
   if (code != SQLITE_OK) throw std::runtime_error("open");
   RegisterTextFunctions(handle);
-  sqlite3_exec(handle, "PRAGMA journal_mode=TRUNCATE; PRAGMA synchronous=FULL;", nullptr, nullptr, nullptr);
+  sqlite3_exec(handle, "PRAGMA journal_mode=TRUNCATE; PRAGMA synchronous=FULL; PRAGMA cache_size=-1024;",
+               nullptr, nullptr, nullptr);
 }
 
 ByHand::Prepared ByHand::Prepare(const char* sql) const {

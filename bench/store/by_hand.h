@@ -11,7 +11,7 @@
 namespace tarvane {
 
 // The yardstick: what the store does, written straight against SQLite's C interface, on the same file with
-// the same indexes, journal mode and synchronous setting.
+// the same settings (journal mode, synchronous, cache, no locking of each call).
 class ByHand {
  public:
   explicit ByHand(const std::filesystem::path& file);

@@ -128,12 +128,13 @@ void CompareSaving(const std::filesystem::path& file) {
   Database database(file);
   RowSet jobs;
   jobs.Open(database, "TblBrindel");
-  jobs.RecordCount();
+  const std::int64_t count = jobs.RecordCount();
   ByHand hand(file);
   // Other texts in each run: a value that is stored already would not be written.
-  const std::string run = "run " + std::to_string(std::chrono::system_clock::now().time_since_epoch().count());
+  const std::string run =
+      "run " + std::to_string(std::chrono::system_clock::now().time_since_epoch().count());
   std::int64_t round = 0;
-  const auto key = [&round] { return 1 + (++round * 7919) % 100000; };
+  const auto key = [&round, count] { return 1 + (++round * 7919) % count; };
   Compare(
       "save of one job", 1.3, 151,
       [&] {

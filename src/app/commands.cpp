@@ -122,7 +122,7 @@ const std::vector<Command>& Commands() {
       {kButton, "", "Command2",             -1, "&Quick Curtain Wizard", "", Run<&Main::ShowQuickWizard>},
       {kButton, "", "CmdGetDetails",        -1, "&Get Customer Details", "", kNotBuilt},
       {kButton, "", "SendEmail",            -1, "Email", "", Run<&Main::SendMail>},
-      {kButton, "", "GoWebSite",            -1, "http:\\", "", Run<&Main::VisitWebSite>},
+      {kButton, "", "GoWebSite",            -1, R"(http:\\)", "", Run<&Main::VisitWebSite>},
       {kButton, "", "UpdateCheckList",      -1, "Change Check List", "", kNotBuilt},
       {kButton, "", "Command7",             -1, "...", "Completion date", kNotBuilt},
       {kButton, "", "CmdFittingDate",       -1, "...", "Fitting date", kNotBuilt},

@@ -27,12 +27,12 @@ using Pieces = std::vector<Piece>;
 
 // What a field looks like beyond what its control tells.
 struct Look {
-  int width = 0;         // in digits; 0: the room that there is
-  bool number = false;   // right-aligned
+  int width = 0;          // in digits; 0: the room that there is
+  bool number = false;    // right-aligned
   std::string unit = {};  // stands beside the field
-  int lines = 0;         // height of a memo; 0: the room that there is
-  bool strong = false;   // large and bold, for what is read at a distance
-  char line_mark = 0;    // a read-only memo shows its lines where the text has this mark; 0: as they are
+  int lines = 0;          // height of a memo; 0: the room that there is
+  bool strong = false;    // large and bold, for what is read at a distance
+  char line_mark = 0;     // a read-only memo shows its lines where the text has this mark; 0: as they are
 };
 
 // One of the fields (also a tick box, button, label, list) of a line.
@@ -70,8 +70,8 @@ struct TableColumn {
   bool number = false;             // right-aligned
 };
 
-// Which columns a table shows, in this order; none named: all of them. The worker brings the others back at the
-// heading.
+// Which columns a table shows, in this order; none named: all of them. The worker brings the others back at
+// the heading.
 struct TableLook {
   std::vector<TableColumn> columns;
   std::string_view wide = {};  // the column that takes the spare room; "": the last one
@@ -84,7 +84,8 @@ class Builder {
   explicit Builder(Form& form) : form_(&form) {}
   Form& form() const { return *form_; }
 
-  // By what the control is: text field, memo, drop-down list, tick box, round option, button, label, list, grid.
+  // By what the control is: text field, memo, drop-down list, tick box, round option, button, label, list,
+  // grid.
   Piece Put(Control& control, const Look& look = {});
 
   Piece Field(TextField& field, const Look& look = {});

@@ -94,8 +94,8 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
   }
 }
 
-void CalmStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
-                                   const QWidget* widget) const {
+void CalmStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                   QPainter* painter, const QWidget* widget) const {
   if (control != CC_ComboBox) return QProxyStyle::drawComplexControl(control, option, painter, widget);
   DrawField(*option, painter);
   const QRectF arrow = subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget);
@@ -103,16 +103,26 @@ void CalmStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
   const QPointF middle = arrow.center();
   painter->save();
   painter->setRenderHint(QPainter::Antialiasing);
-  painter->setPen(QPen(option->palette.color(QPalette::Text), 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter->setPen(
+      QPen(option->palette.color(QPalette::Text), 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter->drawPolyline(QPolygonF({middle + QPointF(-half, -half / 2), middle + QPointF(0, half / 2),
                                    middle + QPointF(half, -half / 2)}));
   painter->restore();
+}
+
+QRect CalmStyle::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const {
+  if (element != SE_HeaderLabel) return QProxyStyle::subElementRect(element, option, widget);
+  // The margin of a heading is meant for its sides; above and below it would cut the letters.
+  const int margin = pixelMetric(PM_HeaderMargin, option, widget);
+  return option->rect.adjusted(margin, 0, -margin, 0);
 }
 
 int CalmStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
   switch (metric) {
     case PM_FocusFrameHMargin:  // beside the texts of lists
       return Quarters(2);
+    case PM_HeaderMargin:
+      return Quarters(1) + 2;
     case PM_IndicatorWidth:
     case PM_IndicatorHeight:
     case PM_ExclusiveIndicatorWidth:
@@ -126,17 +136,11 @@ int CalmStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
   }
 }
 
-QRect CalmStyle::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const {
-  if (element != SE_HeaderLabel) return QProxyStyle::subElementRect(element, option, widget);
-  const int margin = option->fontMetrics.averageCharWidth();
-  return option->rect.adjusted(margin, 0, -margin, 0);
-}
-
 QSize CalmStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                                   const QWidget* widget) const {
   if (type == CT_PushButton) return size + QSize(Quarters(5), Quarters(2));
   QSize fitted = QProxyStyle::sizeFromContents(type, option, size, widget);
-  if (type == CT_LineEdit || type == CT_ComboBox || type == CT_HeaderSection) fitted.setHeight(Quarters(6));
+  if (type == CT_LineEdit || type == CT_ComboBox) fitted.setHeight(Quarters(6));
   return fitted;
 }
 

@@ -57,7 +57,8 @@ class NameButton : public PlainButton {
     QFont written = font();
     written.setUnderline(underMouse() || hasFocus());
     painter.setFont(written);
-    painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+    painter.setPen(
+        palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
     painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, text());
   }
 };
@@ -135,7 +136,8 @@ QPlainTextEdit* MakeMemo(Form& form, TextField& field, char line_mark) {
   auto edit = std::make_unique<QPlainTextEdit>();
   edit->setTabChangesFocus(true);
   edit->setReadOnly(field.read_only());
-  if (field.read_only()) edit->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  if (field.read_only())
+    edit->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   QPlainTextEdit* made = edit.release();
   form.Bind(field, made, [made, shown](Aspect aspect) {
     if (aspect != Aspect::kText) return;
@@ -207,9 +209,8 @@ QWidget* MakeTickBox(Form& form, TickBox& box) {
     made->setChecked(box.on());
     if (group != nullptr) group->setExclusive(true);
   });
-  QObject::connect(made, &QAbstractButton::clicked, &form, [&form, &box](bool on) {
-    form.Act(box, [&](Control&) { box.UserSet(on); });
-  });
+  QObject::connect(made, &QAbstractButton::clicked, &form,
+                   [&form, &box](bool on) { form.Act(box, [&](Control&) { box.UserSet(on); }); });
   return made;
 }
 

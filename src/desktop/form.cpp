@@ -57,12 +57,17 @@ Form::Form(Screen& screen, QWidget* window) : screen_(&screen), window_(window) 
     }));
   }
   window->setWindowTitle(QString::fromStdString(screen.title()));
-  screen.SetWatcher({.title_changed = [this] { window_->setWindowTitle(QString::fromStdString(screen_->title())); },
-                     .closed = [this] { if (on_closed_) on_closed_(); },
-                     .focus_moved = [this](Control* control) {
-                       wanted_focus_ = control;
-                       Post();
-                     }});
+  screen.SetWatcher(
+      {.title_changed = [this] { window_->setWindowTitle(QString::fromStdString(screen_->title())); },
+       .closed =
+           [this] {
+             if (on_closed_) on_closed_();
+           },
+       .focus_moved =
+           [this](Control* control) {
+             wanted_focus_ = control;
+             Post();
+           }});
 }
 
 Form::~Form() { Detach(); }
@@ -78,7 +83,8 @@ void Form::Detach() {
 }
 
 Binding& Form::Bind(Control& control, QObject* widget, Binding::Draw draw) {
-  Binding& binding = *bindings_.emplace_back(std::make_unique<Binding>(*this, control, widget, std::move(draw)));
+  Binding& binding =
+      *bindings_.emplace_back(std::make_unique<Binding>(*this, control, widget, std::move(draw)));
   by_widget_[widget] = &binding;
   by_control_[&control] = &binding;
   widget->installEventFilter(this);
@@ -216,7 +222,9 @@ void Form::FollowModelFocus() {
   const Control* wanted = std::exchange(wanted_focus_, nullptr);
   if (wanted == nullptr) return;
   auto* widget = qobject_cast<QWidget*>(WidgetOf(*wanted));
-  if (widget == nullptr || BindingOf(QApplication::focusWidget()) == by_control_[wanted]) return;
+  // What the step has hidden meanwhile can't have the keyboard.
+  if (widget == nullptr || !widget->isVisible()) return;
+  if (BindingOf(QApplication::focusWidget()) == by_control_[wanted]) return;
   widget->setFocus(Qt::TabFocusReason);
 }
 
@@ -224,7 +232,8 @@ void Form::TakeFirstFocus() {
   wanted_focus_ = screen_->focus();
   Flush();
   if (BindingOf(window_->focusWidget()) != nullptr) return;
-  for (QWidget* widget = window_->nextInFocusChain(); widget != window_; widget = widget->nextInFocusChain()) {
+  for (QWidget* widget = window_->nextInFocusChain(); widget != window_;
+       widget = widget->nextInFocusChain()) {
     const Binding* binding = BindingOf(widget);
     if (binding == nullptr || !widget->isVisible() || !widget->isEnabled()) continue;
     if ((widget->focusPolicy() & Qt::TabFocus) == 0 || widget->focusProxy() != nullptr) continue;
@@ -250,18 +259,30 @@ bool Form::eventFilter(QObject* watched, QEvent* event) {
   }
 }
 
-// Enter runs the field's rule; where that leaves the worker in the field, it goes on to the next one.
+namespace {
+
+void GoOnFrom(QWidget* widget) {
+  QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+  QCoreApplication::sendEvent(widget, &tab);
+}
+
+}  // namespace
+
+// Enter runs the field's rule; where that leaves the worker in the field, it goes on to the next one. Tick
+// boxes have no such rule and let the worker pass.
 bool Form::PressedEnter(Binding& binding, QWidget* widget) {
+  if (widget == nullptr) return false;
+  if (dynamic_cast<TickBox*>(&binding.control()) != nullptr) {
+    GoOnFrom(widget);
+    return true;
+  }
   auto* field = dynamic_cast<TextField*>(&binding.control());
-  if (field == nullptr || field->kind() == TextField::Kind::kMemo || widget == nullptr) return false;
+  if (field == nullptr || field->kind() == TextField::Kind::kMemo) return false;
   const QPointer<QWidget> edit = widget;
   Act(*field, [field](Control&) { field->UserEnterKey(); });
   Flush();
   if (detached_ || !edit || screen_->is_closed()) return true;
-  if (screen_->focus() == field) {
-    QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
-    QCoreApplication::sendEvent(edit, &tab);
-  }
+  if (screen_->focus() == field) GoOnFrom(edit);
   return true;
 }
 

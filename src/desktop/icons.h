@@ -5,8 +5,8 @@
 
 namespace tarvane {
 
-// An icon drawn by code in the colours of the palette. Names are those of the toolbar's buttons, "New Record",
-// "Payment" and so on, and "Previous" and "Next"; any other name gives an empty icon.
+// An icon drawn by code in the colours of the palette. Names are those of the toolbar's buttons, "New
+// Record", "Payment" and so on, and "Previous" and "Next"; any other name gives an empty icon.
 QIcon MakeIcon(std::string_view name);
 
 }  // namespace tarvane

@@ -100,8 +100,8 @@ class GridModel : public QAbstractTableModel {
   int columns_ = 0;
 };
 
-// Draws a cell's text in one line, several times as fast as the general delegate: a page of a table is drawn at
-// every key.
+// Draws a cell's text in one line, several times as fast as the general delegate: a page of a table is drawn
+// at every key.
 class LineDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -124,14 +124,15 @@ class LineDelegate : public QStyledItemDelegate {
         width <= room.width() ? text : option.fontMetrics.elidedText(text, Qt::ElideRight, room.width());
     const bool right = index.data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight;
     const int left = right && width <= room.width() ? room.right() + 1 - width : room.left();
-    const int base = room.top() + (room.height() + option.fontMetrics.ascent() - option.fontMetrics.descent()) / 2;
+    const int base =
+        room.top() + (room.height() + option.fontMetrics.ascent() - option.fontMetrics.descent()) / 2;
     painter->setPen(option.palette.color(group, selected ? QPalette::HighlightedText : QPalette::Text));
     painter->drawText(left, base, shown);
   }
 };
 
-// What the worker does in a list is told when it is done: a row once the mouse is let go or the key has moved,
-// and an opening by double click or Enter.
+// What the worker does in a list is told when it is done: a row once the mouse is let go or the key has
+// moved, and an opening by double click or Enter.
 class GridTable : public QTableView {
  public:
   std::function<void(int)> picked;
@@ -193,7 +194,8 @@ void ArrangeColumns(QTableView* table, const GridModel& model, const Grid& grid)
   }
   int place = 0;
   for (const TableColumn& column : model.look().columns) {
-    if (const int at = model.ColumnOf(column.heading); at >= 0) header->moveSection(header->visualIndex(at), place++);
+    if (const int at = model.ColumnOf(column.heading); at >= 0)
+      header->moveSection(header->visualIndex(at), place++);
   }
   const int wide = model.look().wide.empty() ? -1 : model.ColumnOf(model.look().wide);
   header->setStretchLastSection(wide < 0);
@@ -247,7 +249,8 @@ void DressTable(GridTable* table) {
 }
 
 void DrawSelection(QTableView* table, const Grid& grid) {
-  const int row = static_cast<int>(std::min<std::int64_t>(grid.selected_row(), table->model()->rowCount())) - 1;
+  const int row =
+      static_cast<int>(std::min<std::int64_t>(grid.selected_row(), table->model()->rowCount())) - 1;
   if (row == table->currentIndex().row()) return;
   const int column = std::max(0, table->columnAt(0));
   table->setCurrentIndex(row < 0 ? QModelIndex() : table->model()->index(row, column));
@@ -316,7 +319,8 @@ QTableView* MakeTable(Form& form, Grid& grid, const TableLook& look) {
   form.Bind(grid, table, [table, model, &grid, columns = -1](Aspect aspect) mutable {
     if (aspect == Aspect::kRows) {
       if (columns >= 0) model->Reset();
-      if (std::exchange(columns, grid.ColumnCount()) != grid.ColumnCount()) ArrangeColumns(table, *model, grid);
+      if (std::exchange(columns, grid.ColumnCount()) != grid.ColumnCount())
+        ArrangeColumns(table, *model, grid);
     }
     if (aspect == Aspect::kRows || aspect == Aspect::kSelection) DrawSelection(table, grid);
   });

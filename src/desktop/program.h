@@ -13,8 +13,8 @@ namespace tarvane {
 struct ProgramOptions {
   std::filesystem::path folder;  // empty: the executable's
   std::optional<ColourScheme> scheme;
-  std::optional<int> text_size;        // points
-  std::filesystem::path screenshots;   // where to; empty: none
+  std::optional<int> text_size;       // points
+  std::filesystem::path screenshots;  // where to; empty: none
   bool benchmark_start = false;
   bool help = false;
 };

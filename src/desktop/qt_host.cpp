@@ -49,7 +49,8 @@ constexpr std::array<std::pair<Answer, QMessageBox::StandardButton>, 4> kButtons
 // Programs that screens ask for by a word, each with those that serve for it; the first one found is started.
 const std::array<std::pair<std::string_view, std::vector<const char*>>, 2> kPrograms = {{
     {"calc", {"gnome-calculator", "kcalc", "galculator", "mate-calc", "qalculate-gtk", "xcalc", "calc"}},
-    {"notepad", {"gnome-text-editor", "gedit", "kwrite", "mousepad", "pluma", "xed", "featherpad", "notepad"}},
+    {"notepad",
+     {"gnome-text-editor", "gedit", "kwrite", "mousepad", "pluma", "xed", "featherpad", "notepad"}},
 }};
 
 template <typename From, typename To, std::size_t kCount>
@@ -132,7 +133,12 @@ void QtHost::Place(const Form& form) const {
   if (screen == nullptr) return;
   const QSize room = screen->availableSize();
   if (qobject_cast<QMainWindow*>(window) != nullptr) {
-    window->resize(std::min(room.width(), Digits(150)), std::min(room.height(), Quarters(200)));
+    const QSize wanted(Digits(160), Quarters(190));
+    window->resize(wanted.boundedTo(room));
+    // With its frame it would stand out over the edge.
+    if (wanted.width() >= room.width() || wanted.height() >= room.height()) {
+      window->setWindowState(Qt::WindowMaximized);
+    }
   } else {
     // A form that wants another size than its pieces has set it.
     const QSize size = window->testAttribute(Qt::WA_Resized) ? window->size() : window->sizeHint();
@@ -200,10 +206,9 @@ std::optional<std::string> QtHost::Input(std::string_view title, std::string_vie
 
 std::optional<std::filesystem::path> QtHost::ChooseFile(FileChoice kind, std::string_view title,
                                                         std::string_view filter) {
-  const QString chosen =
-      kind == FileChoice::kOpen
-          ? QFileDialog::getOpenFileName(TopWindow(), ToQt(title), {}, QtFilter(filter))
-          : QFileDialog::getSaveFileName(TopWindow(), ToQt(title), {}, QtFilter(filter));
+  const QString chosen = kind == FileChoice::kOpen
+                             ? QFileDialog::getOpenFileName(TopWindow(), ToQt(title), {}, QtFilter(filter))
+                             : QFileDialog::getSaveFileName(TopWindow(), ToQt(title), {}, QtFilter(filter));
   if (chosen.isEmpty()) return std::nullopt;
   return std::filesystem::path(chosen.toStdU16String());
 }
@@ -239,7 +244,8 @@ void QtHost::Launch(std::string_view target) {
     throw Fault("No program for \"" + std::string(target) + "\" is installed.");
   }
   const QString text = ToQt(target);
-  const QUrl url = QFileInfo::exists(text) ? QUrl::fromLocalFile(QFileInfo(text).absoluteFilePath()) : QUrl(text);
+  const QUrl url =
+      QFileInfo::exists(text) ? QUrl::fromLocalFile(QFileInfo(text).absoluteFilePath()) : QUrl(text);
   if (url.scheme().isEmpty() || !QDesktopServices::openUrl(url)) {
     throw Fault("Nothing here can open \"" + std::string(target) + "\".");
   }

@@ -64,6 +64,7 @@ class Photographer {
   }
 
   void VisitMain(Form& form) {
+    form.window()->setWindowState(Qt::WindowNoState);
     form.window()->resize(1366, 768);
     Take(form, "main-finder");
     main_.OpenRecord();
@@ -103,8 +104,11 @@ class Photographer {
     form.window()->resize(1280, 740);
     for (int step = 0; step < MainCWizard::kSteps; ++step) {
       if (step > 0) wizard.CmdNext.Press();
+      if (wizard.AddTrims.shown()) wizard.AddTrims.UserSet(true);
       if (wizard.CmdGetInfo.shown()) wizard.CmdGetInfo.Press();
+      if (wizard.CostingGrid.RowCount() > 0) wizard.CostingGrid.UserSelectRow(1);
       Take(form, FromQt(QString("wizard-step-%1").arg(step + 1)).c_str());
+      if (wizard.AddTrims.on()) wizard.AddTrims.UserSet(false);
     }
   }
 

@@ -22,8 +22,10 @@ StepBar::StepBar(std::vector<QString> names) : names_(std::move(names)) {
 
 void StepBar::SetStep(int step) {
   step_ = std::clamp(step, 0, static_cast<int>(names_.size()) - 1);
-  setAccessibleName(QString("Step %1 of %2, %3").arg(step_ + 1).arg(names_.size()).arg(
-      names_[static_cast<std::size_t>(step_)]));
+  setAccessibleName(QString("Step %1 of %2, %3")
+                        .arg(step_ + 1)
+                        .arg(names_.size())
+                        .arg(names_[static_cast<std::size_t>(step_)]));
   update();
 }
 
@@ -72,7 +74,9 @@ QSize StepBar::sizeHint() const {
   return {total, Disc() + Quarters(2)};
 }
 
-QSize StepBar::minimumSizeHint() const { return {WidthOf(0, false) * static_cast<int>(names_.size()), sizeHint().height()}; }
+QSize StepBar::minimumSizeHint() const {
+  return {WidthOf(0, false) * static_cast<int>(names_.size()), sizeHint().height()};
+}
 
 void StepBar::mousePressEvent(QMouseEvent* event) {
   const int step = StepAt(event->position().toPoint().x());

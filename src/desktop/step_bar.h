@@ -7,8 +7,8 @@
 
 namespace tarvane {
 
-// The steps of a wizard in a row: those that are done with a tick, the present one marked, those to come quiet.
-// Where there is no room for all names, the present one keeps its own.
+// The steps of a wizard in a row: those that are done with a tick, the present one marked, those to come
+// quiet. Where there is no room for all names, the present one keeps its own.
 class StepBar : public QWidget {
  public:
   explicit StepBar(std::vector<QString> names);

@@ -24,10 +24,11 @@ struct Colours {
   QRgb window, text, base, alternate, button, quiet, disabled, rule, frame, strip, accent, on_accent, link;
 };
 //                             window      text        base        alternate   button      quiet
-constexpr Colours kLight = {0xfff4f5f7, 0xff1c2126, 0xffffffff, 0xfff5f8fb, 0xffeceff2, 0xff56606b,
-                            0xff99a1aa, 0xffd3d8de, 0xff9aa4af, 0xffe6ecf2, 0xff1f5f99, 0xffffffff, 0xff1f5f99};
-constexpr Colours kDark = {0xff23272c, 0xffe6e9ec, 0xff1a1d21, 0xff20242a, 0xff343a41, 0xffa5afb9,
-                           0xff6c757e, 0xff3d444c, 0xff5f6a75, 0xff2c333b, 0xff5aa5e6, 0xff10161c, 0xff7dbcf2};
+constexpr Colours kLight = {0xfff4f5f7, 0xff1c2126, 0xffffffff, 0xfff5f8fb, 0xffeceff2,
+                            0xff56606b, 0xff99a1aa, 0xffd3d8de, 0xff9aa4af, 0xffe6ecf2,
+                            0xff1f5f99, 0xffffffff, 0xff1f5f99};
+constexpr Colours kDark = {0xff23272c, 0xffe6e9ec, 0xff1a1d21, 0xff20242a, 0xff343a41, 0xffa5afb9, 0xff6c757e,
+                           0xff3d444c, 0xff5f6a75, 0xff2c333b, 0xff5aa5e6, 0xff10161c, 0xff7dbcf2};
 
 constexpr char kSystemIsDark[] = "system_is_dark";
 constexpr char kScheme[] = "scheme";
@@ -43,7 +44,8 @@ QPalette PaletteOf(const Colours& colours) {
   palette.setColor(QPalette::HighlightedText, QColor(colours.on_accent));
   palette.setColor(QPalette::PlaceholderText, QColor(colours.quiet));
   palette.setColor(QPalette::Link, QColor(colours.link));
-  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText}) {
+  for (const auto role :
+       {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText}) {
     palette.setColor(QPalette::Disabled, role, QColor(colours.disabled));
   }
   palette.setColor(QPalette::Disabled, QPalette::Base, QColor(colours.window));
@@ -66,8 +68,8 @@ Theme LoadTheme() {
   const QSettings settings;
   Theme theme;
   ParseScheme(settings.value("theme").toString(), theme.scheme);
-  theme.text_size = std::clamp(settings.value("text_size", Theme::kUsualTextSize).toInt(), Theme::kSmallestText,
-                               Theme::kLargestText);
+  theme.text_size = std::clamp(settings.value("text_size", Theme::kUsualTextSize).toInt(),
+                               Theme::kSmallestText, Theme::kLargestText);
   return theme;
 }
 
@@ -96,7 +98,8 @@ void ApplyTheme(const Theme& theme) {
 }
 
 Theme CurrentTheme() {
-  return {static_cast<ColourScheme>(QCoreApplication::instance()->property(kScheme).toInt()), QApplication::font().pointSize()};
+  return {static_cast<ColourScheme>(QCoreApplication::instance()->property(kScheme).toInt()),
+          QApplication::font().pointSize()};
 }
 
 int Quarters(int count) { return (QFontMetrics(QApplication::font()).height() * count + 2) / 4; }

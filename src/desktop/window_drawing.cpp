@@ -53,9 +53,9 @@ LengthUnit UnitOf(const MainCWizard& wizard) {
   return wizard.UnitMm.on() ? LengthUnit::kMillimetres : LengthUnit::kCentimetres;
 }
 
-// Of a measure that the worker types in centimetres, in inches: the inch box is rounded, and she knows her own
-// figure. Millimetres stand in the box where it was converted for reading. Otherwise the inches count, but for
-// the box that is being typed into.
+// Of a measure that the worker types in centimetres, in inches: the inch box is rounded, and she knows her
+// own figure. Millimetres stand in the box where it was converted for reading. Otherwise the inches count,
+// but for the box that is being typed into.
 double FromMirror(double shown, double inches, bool typing) {
   if (!(std::isfinite(shown) && shown > 0)) return typing ? 0 : inches;
   const double centimetres = shown / kCentimetresPerInch;
@@ -72,8 +72,8 @@ int FoldsOf(const WindowSketch& sketch, const QRectF& curtain) {
   return static_cast<int>(std::clamp(track / kInchesPerFold, std::min(4.0, most), most));
 }
 
-// Seams stand where one width, gathered, ends. The calculated number of widths shares the track out evenly, as
-// long as it still fits the measures.
+// Seams stand where one width, gathered, ends. The calculated number of widths shares the track out evenly,
+// as long as it still fits the measures.
 std::vector<double> Seams(const WindowSketch& sketch) {
   if (sketch.track <= 0) return {};
   double needed = 0;
@@ -146,8 +146,8 @@ QString LengthText(double inches, LengthUnit unit) {
       {{1, "in"}, {kCentimetresPerInch, "cm"}, {kCentimetresPerInch * 10, "mm"}}};
   const auto& [factor, name] = kUnits[static_cast<std::size_t>(unit)];
   const double length = inches * factor;
-  const QString number = length < 1e6 ? QString::number(std::round(length * 10) / 10, 'g', 8)
-                                      : QString::number(length, 'g', 3);
+  const QString number =
+      length < 1e6 ? QString::number(std::round(length * 10) / 10, 'g', 8) : QString::number(length, 'g', 3);
   return number + ' ' + QLatin1String(name);
 }
 
@@ -174,8 +174,9 @@ void WindowDrawing::Show(const DrawnWindow& window) {
   if (window == window_) return;
   window_ = window;
   const auto [track, drop] = std::pair(window.sketch.track, window.sketch.drop);
-  setAccessibleDescription(QString("Track %1, drop %2, %3")
-                               .arg(LengthText(track, window.unit), LengthText(drop, window.unit), WidthsNote()));
+  setAccessibleDescription(
+      QString("Track %1, drop %2, %3")
+          .arg(LengthText(track, window.unit), LengthText(drop, window.unit), WidthsNote()));
   update();
 }
 
@@ -277,7 +278,8 @@ void WindowDrawing::DrawHems(QPainter& painter, const CurtainPlace& place) const
   painter.fillRect(hem, Faded(accent, 0.16));
   painter.setPen(QPen(Faded(accent, 0.9), 1, Qt::DashLine));
   painter.drawLine(hem.topLeft(), hem.topRight());
-  painter.drawLine(QPointF(curtain.left(), curtain.top() + depth), QPointF(curtain.right(), curtain.top() + depth));
+  painter.drawLine(QPointF(curtain.left(), curtain.top() + depth),
+                   QPointF(curtain.right(), curtain.top() + depth));
 }
 
 void WindowDrawing::DrawHeading(QPainter& painter, const CurtainPlace& place) const {
@@ -310,12 +312,14 @@ void WindowDrawing::DrawMeasures(QPainter& painter, const CurtainPlace& place) c
   const WindowSketch& sketch = window_.sketch;
   const QRectF& curtain = place.curtain;
   const double line = fontMetrics().height();
-  const auto text = [this](double inches) { return inches > 0 ? LengthText(inches, window_.unit) : QString("?"); };
+  const auto text = [this](double inches) {
+    return inches > 0 ? LengthText(inches, window_.unit) : QString("?");
+  };
   painter.setPen(palette().color(QPalette::WindowText));
   const double above = curtain.top() - line * 0.9;
   DrawArrow(painter, {curtain.left(), above}, {curtain.right(), above});
-  painter.drawText(QRectF(0, above - line * 1.35, width(), line * 1.2),
-                   Qt::AlignHCenter | Qt::AlignBottom, "Track " + text(sketch.track));
+  painter.drawText(QRectF(0, above - line * 1.35, width(), line * 1.2), Qt::AlignHCenter | Qt::AlignBottom,
+                   "Track " + text(sketch.track));
   // The text stands in the middle of its arrow, or, where that is shorter, begins at its upper end.
   const auto upright = [&](double x, double top, double bottom, const QString& label) {
     DrawArrow(painter, {x, top}, {x, bottom});
@@ -338,7 +342,7 @@ QString WindowDrawing::WidthsNote() const {
   const WindowSketch& sketch = window_.sketch;
   QStringList parts;
   if (sketch.fabric_width > 0) {
-    const QString widths = sketch.widths <= 0     ? QString("fabric")
+    const QString widths = sketch.widths <= 0   ? QString("fabric")
                            : sketch.widths == 1 ? QString("1 width")
                                                 : QString("%1 widths").arg(sketch.widths, 0, 'g', 6);
     parts += widths + " of " + LengthText(sketch.fabric_width, window_.unit);
@@ -361,8 +365,8 @@ QString WindowDrawing::Notes(const CurtainPlace& place) const {
 void WindowDrawing::DrawNotes(QPainter& painter, const CurtainPlace& place) const {
   painter.setPen(palette().color(QPalette::PlaceholderText));
   const double top = place.curtain.bottom() + fontMetrics().height() * 0.5;
-  painter.drawText(QRectF(0, top, width(), height() - top), Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap,
-                   Notes(place));
+  painter.drawText(QRectF(0, top, width(), height() - top),
+                   Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, Notes(place));
 }
 
 }  // namespace tarvane

@@ -58,7 +58,8 @@ int RowSet::ColumnCount() const { return static_cast<int>(state_->Cursor().table
 
 const std::string& RowSet::ColumnName(int column) const {
   const auto& columns = state_->Cursor().table().columns;
-  if (column < 0 || column >= ColumnCount()) throw Fault("There is no column " + std::to_string(column) + ".");
+  if (column < 0 || column >= ColumnCount())
+    throw Fault("There is no column " + std::to_string(column) + ".");
   return columns[static_cast<std::size_t>(column)].name;
 }
 

@@ -17,7 +17,7 @@ const std::vector<std::vector<std::string>> kLayers = {
     {"pdf", "store"},
     {"screen"},
     {"job"},
-    {"tools", "curtain_wizard"},
+    {"tools", "curtain_wizard", "printing"},
     {"app"},
     {"script", "setup", "desktop"},
 };

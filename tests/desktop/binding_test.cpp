@@ -145,7 +145,8 @@ TEST_F(BindingTest, StateCaptionAndPanelFollowTheControl) {
   ShownForm::Settle();
   EXPECT_FALSE(length->isVisible());
   for (const QLabel* label : shown_.window.findChildren<QLabel*>()) {
-    if (label->text() == "Length" || label->text() == "cm") EXPECT_FALSE(label->isVisible()) << label->text().toStdString();
+    if (label->text() != "Length" && label->text() != "cm") continue;
+    EXPECT_FALSE(label->isVisible()) << label->text().toStdString();
   }
   EXPECT_FALSE(shown_.WidgetOf<QPushButton>(screen_.Save)->isEnabled());
   EXPECT_EQ(shown_.WidgetOf<QPushButton>(screen_.Save)->text(), "&Update");
@@ -177,7 +178,8 @@ TEST_F(BindingTest, ListsTellWhatIsPickedAndOpened) {
   screen_.List.OnOpened([&] { opened = screen_.List.selected(); });
   shown_.Show({build_.List(screen_.List)});
   auto* view = shown_.WidgetOf<QListView>(screen_.List);
-  QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(view->model()->index(1, 0)).center());
+  QTest::mouseClick(view->viewport(), Qt::LeftButton, {},
+                    view->visualRect(view->model()->index(1, 0)).center());
   ShownForm::Settle();
   EXPECT_EQ(screen_.List.selected(), 1);
   QTest::keyClick(view, Qt::Key_Down);

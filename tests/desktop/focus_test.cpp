@@ -23,14 +23,16 @@ class FocusTest : public testing::Test {
 };
 
 TEST_F(FocusTest, TabRunsLeaveAndEntryRulesInReadingOrder) {
-  shown_.Show({build_.Fields({{"Width", {screen_.Width}}, {"Length", {screen_.Length}}}), build_.Press(screen_.Save)});
+  shown_.Show({build_.Fields({{"Width", {screen_.Width}}, {"Length", {screen_.Length}}}),
+               build_.Press(screen_.Save)});
   Edit(screen_.Width)->setFocus();
   ShownForm::Settle();
   QTest::keyClick(Edit(screen_.Width), Qt::Key_Tab);
   ShownForm::Settle();
   QTest::keyClick(Edit(screen_.Length), Qt::Key_Tab);
   ShownForm::Settle();
-  EXPECT_THAT(screen_.log, ElementsAre("enter Width", "leave Width", "enter Length", "leave Length", "enter Save"));
+  EXPECT_THAT(screen_.log,
+              ElementsAre("enter Width", "leave Width", "enter Length", "leave Length", "enter Save"));
 }
 
 TEST_F(FocusTest, EnterRunsTheRuleAndGoesOnAndNeverClosesTheWindow) {

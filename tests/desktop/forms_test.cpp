@@ -63,8 +63,8 @@ TEST_F(FormsTest, EveryControlHasAPlace) {
   FrmEnterSalesPerson person(host_, main_);
   MainCWizard wizard(host_, main_);
   FrmPreferences preferences(host_, wizard);
-  for (Screen* screen : std::initializer_list<Screen*>{&main_, &splash, &options, &lists, &person, &wizard,
-                                                       &preferences}) {
+  for (Screen* screen :
+       std::initializer_list<Screen*>{&main_, &splash, &options, &lists, &person, &wizard, &preferences}) {
     EveryControlHasAPlace(*screen);
   }
 }
@@ -116,7 +116,9 @@ TEST_F(FormsTest, WindowsFitASmallScreen) {
 }
 
 double Luminance(const QColor& colour) {
-  const auto part = [](double value) { return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4); };
+  const auto part = [](double value) {
+    return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+  };
   return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
 }
 
@@ -128,9 +130,9 @@ double Contrast(const QColor& one, const QColor& other) {
 
 TEST(ThemeTest, TextsReadWellInLightAndDark) {
   constexpr std::pair<QPalette::ColorRole, QPalette::ColorRole> kPairs[] = {
-      {QPalette::WindowText, QPalette::Window},     {QPalette::Text, QPalette::Base},
-      {QPalette::Text, QPalette::AlternateBase},    {QPalette::ButtonText, QPalette::Button},
-      {QPalette::PlaceholderText, QPalette::Window}, {QPalette::PlaceholderText, QPalette::ToolTipBase},
+      {QPalette::WindowText, QPalette::Window},         {QPalette::Text, QPalette::Base},
+      {QPalette::Text, QPalette::AlternateBase},        {QPalette::ButtonText, QPalette::Button},
+      {QPalette::PlaceholderText, QPalette::Window},    {QPalette::PlaceholderText, QPalette::ToolTipBase},
       {QPalette::HighlightedText, QPalette::Highlight}, {QPalette::ToolTipText, QPalette::ToolTipBase}};
   const Theme before = CurrentTheme();
   for (const ColourScheme scheme : {ColourScheme::kLight, ColourScheme::kDark}) {

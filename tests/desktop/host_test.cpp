@@ -46,8 +46,8 @@ class NextBox {
 
 TEST(HostTest, QuestionsHaveTheirPresetAndClosingGivesTheLastAnswer) {
   QtHost host;
-  const Question question{"Delete Item...", "Are You Sure?\r\nYes?", {Answer::kYes, Answer::kNo}, Answer::kNo,
-                          Icon::kWarning};
+  const Question question{
+      "Delete Item...", "Are You Sure?\r\nYes?", {Answer::kYes, Answer::kNo}, Answer::kNo, Icon::kWarning};
   {
     const NextBox box(QMessageBox::Yes);
     EXPECT_EQ(host.Ask(question), Answer::kYes);
@@ -164,8 +164,12 @@ TEST(ProgramTest, ReadsItsCommandLine) {
   EXPECT_EQ(options.text_size, 14);
   EXPECT_TRUE(ParseOptions({"--benchmark-start"}).benchmark_start);
   EXPECT_EQ(ParseOptions({"--screenshots", "out"}).screenshots, "out");
-  for (const std::vector<std::string>& wrong : std::vector<std::vector<std::string>>{
-           {"--theme"}, {"--theme", "blue"}, {"--text-size", "7"}, {"--text-size", "12x"}, {"--what"}, {"a", "b"}}) {
+  for (const std::vector<std::string>& wrong : std::vector<std::vector<std::string>>{{"--theme"},
+                                                                                     {"--theme", "blue"},
+                                                                                     {"--text-size", "7"},
+                                                                                     {"--text-size", "12x"},
+                                                                                     {"--what"},
+                                                                                     {"a", "b"}}) {
     EXPECT_THROW(ParseOptions(wrong), Fault) << wrong.front();
   }
 }

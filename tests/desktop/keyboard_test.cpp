@@ -61,8 +61,8 @@ class Typist {
   TrialHost& host_;
 };
 
-// From the start to a curtain in a room, by keys alone: a new job, a name, the wizard's measurements, its seven
-// steps, save.
+// From the start to a curtain in a room, by keys alone: a new job, a name, the wizard's measurements, its
+// seven steps, save.
 class KeyboardTest : public testing::Test {
  protected:
   void Visit(Form& form) {
@@ -104,6 +104,12 @@ class KeyboardTest : public testing::Test {
     typist_.Key(Qt::Key_S, Qt::ControlModifier);
     typist_.Key(Qt::Key_W, Qt::ControlModifier);
     EXPECT_FALSE(main_.in_job_mode());
+    ASSERT_TRUE(typist_.TabTo(main_.QuickFinderGrid));
+    typist_.Key(Qt::Key_Home);
+    typist_.Key(Qt::Key_Return);
+    EXPECT_TRUE(main_.in_job_mode());
+    EXPECT_EQ(main_.focus(), &main_.Name) << "an opened job is typed into at once";
+    EXPECT_EQ(QApplication::focusWidget(), host_.forms().back()->WidgetOf(main_.Name));
   }
 
   void Enter(const TextField& field, const char* text) {

@@ -96,7 +96,8 @@ TEST_F(TableTest, ManyChangesAreDrawnOnce) {
 
 TEST_F(TableTest, ShowsTheColumnsOfItsLookInTheirOrder) {
   screen_.Rows.SetHeadings({"Line", "Price", "Infomation", "Description"});
-  shown_.Show({build_.Table(screen_.Rows, {{{"Description", "What", 20}, {"Price", "", 8, true}}, "Description"})});
+  shown_.Show(
+      {build_.Table(screen_.Rows, {{{"Description", "What", 20}, {"Price", "", 8, true}}, "Description"})});
   auto* table = shown_.WidgetOf<QTableView>(screen_.Rows);
   QHeaderView* header = table->horizontalHeader();
   EXPECT_EQ(header->visualIndex(3), 0);

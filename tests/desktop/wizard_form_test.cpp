@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
@@ -27,7 +26,6 @@ class WizardFormTest : public testing::Test {
   void Show(const Step& step) {
     host_.OnShown([&](Form& form) {
       if (form.screen().name() != "MainCWizard") return form.screen().Close();
-      fprintf(stderr, "shown after %lld us\n", (long long)t_.nsecsElapsed()/1000);
       QApplication::setActiveWindow(form.window());
       Settle();
       step(form, static_cast<MainCWizard&>(form.screen()));
@@ -36,7 +34,6 @@ class WizardFormTest : public testing::Test {
     main_.RunAsMain();
     MainCWizard wizard(host_, main_);
     wizard.RoomIndex.SetText("0");
-    t_.start();
     main_.ShowModal(wizard);
   }
 
@@ -77,7 +74,6 @@ class WizardFormTest : public testing::Test {
   }
   static QString CostTag(const Form& form) { return Named<QLabel>(form, "Cost of the item")->text(); }
 
-  QElapsedTimer t_;
   SampleShop shop_;
   TrialHost host_;
   MainScreen main_{host_, shop_.folder()};
@@ -119,8 +115,8 @@ TEST_F(WizardFormTest, AWholeItemByKeyboardAlone) {
 TEST_F(WizardFormTest, TheLastFieldOfAStepLeadsToNext) {
   Show([](Form&, MainCWizard& w) {
     GoOn(w);
-    TabTo(w, w.FabricCost);
-    Press(Qt::Key_Return);
+    for (int i = 0; i < 10 && w.focus() != &w.CmdNext; ++i) Press(Qt::Key_Return);
+    EXPECT_FALSE(w.FabricPriceExVat.on()) << "passed, not ticked";
     EXPECT_EQ(w.focus(), &w.CmdNext);
     EXPECT_EQ(w.step(), 1);
     Press(Qt::Key_Return);
@@ -134,8 +130,8 @@ void ExpectDistinctAccessKeys(const Form& form, const std::string& where) {
     const std::string key = button->shortcut().toString().toStdString();
     if (key.empty() || !button->isVisible()) continue;
     const auto [owner, is_new] = owners.emplace(key, button->text().toStdString());
-    EXPECT_TRUE(is_new) << key << " is for " << owner->second << " and " << button->text().toStdString() << ", "
-                        << where;
+    EXPECT_TRUE(is_new) << key << " is for " << owner->second << " and " << button->text().toStdString()
+                        << ", " << where;
   }
   EXPECT_GE(owners.size(), 3U) << where;
 }
@@ -159,7 +155,9 @@ TEST_F(WizardFormTest, StepsListsAndDrawingTakeTurns) {
     Settle();
     const auto* steps = static_cast<StepBar*>(form.WidgetOf(w.StepTabs));
     const QWidget* drawing = Named<QWidget>(form, "Drawing of the window");
-    const auto shown = [&form](const Control& control) { return qobject_cast<QWidget*>(form.WidgetOf(control))->isVisible(); };
+    const auto shown = [&form](const Control& control) {
+      return qobject_cast<QWidget*>(form.WidgetOf(control))->isVisible();
+    };
     EXPECT_TRUE(drawing->isVisible());
     for (int step = 0; step < MainCWizard::kSteps; ++step) {
       if (step > 0) w.CmdNext.UserPress();

@@ -90,9 +90,7 @@ void PassThrough(MainCWizard& wizard) {
   const SampleTrim& trim = WindowOf(wizard).trim;
   for (int step = 1; step < MainCWizard::kSteps; ++step) {
     wizard.CmdNext.UserPress();
-    if (wizard.step() != 4 || trim.kind.empty()) continue;
-    wizard.AddTrims.UserSet(true);
-    wizard.TrimByWidths.UserSet(trim.by_widths);
+    if (wizard.step() == 4 && trim.by_widths) wizard.TrimByWidths.UserSet(true);
   }
   wizard.CmdGetInfo.UserPress();
   wizard.CmdUpdateAndClose.UserPress();

@@ -44,6 +44,13 @@ class Invention {
     return digits;
   }
 
+  std::string Date() {
+    std::string date = "00/00/24";
+    date[1] = static_cast<char>('1' + Below(9));
+    date[4] = static_cast<char>('1' + Below(9));
+    return date;
+  }
+
   std::string Money() { return std::to_string(20 + Below(900)) + "." + Digits(2); }
 
   std::string Letters(int count) {
@@ -82,8 +89,7 @@ Job InventJob(Invention& invention, std::int64_t order) {
        invention.Letters(2) + invention.Digits(1) + " " + invention.Digits(1) + invention.Letters(2)},
       {"Text10", "Pencil pleat curtains, lined, pair\r\n"},
       {"Text11", price},
-      {"3Text",
-       "0" + std::to_string(1 + invention.Below(9)) + "/0" + std::to_string(1 + invention.Below(9)) + "/24"},
+      {"3Text", invention.Date()},
       {"4text", price},
       {"5Text", price},
       {"G-Total", price},

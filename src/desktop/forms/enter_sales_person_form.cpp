@@ -9,10 +9,10 @@ void BuildEnterSalesPersonForm(Form& form) {
   auto& screen = static_cast<FrmEnterSalesPerson&>(form.screen());
   Builder build(form);
   FillDialog(form, {
-      build.Fields({{"Sales Person", {{screen.CboSalesPerson, {.width = 26}}}}}),
-      Builder::Spring(),
-      build.Row({Builder::Spring(), build.Press(screen.Command1, true)}),
-  });
+                       build.Fields({{"Sales Person", {{screen.CboSalesPerson, {.width = 26}}}}}),
+                       Builder::Spring(),
+                       build.Row({Builder::Spring(), build.Press(screen.Command1, true)}),
+                   });
 }
 
 }  // namespace tarvane

@@ -51,16 +51,22 @@ Piece AddButton(Form& form, MainScreen& screen) {
 
 Piece FinderPanel(Builder& build, MainScreen& screen) {
   const Piece search = build.Row({
-      build.Fields({{"Find by", {{screen.CboFabSearch, {.width = 20}},
-                                 build.Text("Search String ( * can be used)"),
-                                 {screen.FabSText, {.width = 22}},
-                                 screen.CmdSearch,
-                                 screen.CmdReset}}}).Grow(),
+      build
+          .Fields({{"Find by",
+                    {{screen.CboFabSearch, {.width = 20}},
+                     build.Text("Search String ( * can be used)"),
+                     {screen.FabSText, {.width = 22}},
+                     screen.CmdSearch,
+                     screen.CmdReset}}})
+          .Grow(),
   });
   const Piece people = build.Row({
-      build.Fields({{"Sales Person", {{screen.CboSalesPersonSearch, {.width = 20}},
-                                      screen.CmdFindSalesPersonsJobs,
-                                      screen.CMDLOAD}}}).Grow(),
+      build
+          .Fields({{"Sales Person",
+                    {{screen.CboSalesPersonSearch, {.width = 20}},
+                     screen.CmdFindSalesPersonsJobs,
+                     screen.CMDLOAD}}})
+          .Grow(),
       Builder::Spring(),
       build.Text("Last Record Opened"),
       build.Field(screen.txtLastRecord, {.width = 8, .number = true}),
@@ -72,8 +78,8 @@ Piece FinderPanel(Builder& build, MainScreen& screen) {
       build.Text(screen.Label12, true),
       Builder::Spring(),
   });
-  const Piece page = build.Column({open, build.Table(screen.QuickFinderGrid, kFinderColumns), build.Rule(), search,
-                                   people});
+  const Piece page =
+      build.Column({open, build.Table(screen.QuickFinderGrid, kFinderColumns), build.Rule(), search, people});
   build.form().Bind(screen.Frame2, page.layout, nullptr);
   return build.Margin(page);
 }

@@ -18,48 +18,59 @@ Piece Commands(Builder& build, MainScreen& screen, const std::vector<const char*
 
 Piece CustomerPage(Builder& build, MainScreen& screen) {
   const Look telephone{.width = 20};
-  const Piece customer = build.Group("Customer", {build.Fields({
-      {"Name", {screen.Name}},
-      {"Company", {screen.Company}},
-      {"Address", {screen.Address}},
-      {"Town", {screen.Town}},
-      {"County", {screen.County}},
-      {"Post Code", {{screen.PostCode, {.width = 12}}, Builder::Spring(), screen.CommandButton("CmdGetDetails")}},
-      {},
-      {"Home T", {{screen.HomeTelephone, telephone}}},
-      {"Works T", {{screen.WorksTelephone, telephone}}},
-      {"Mobile", {{screen.Mobile, telephone}}},
-      {"Fax T", {{screen.Fax, telephone}}},
-      {"Email", {screen.Email, screen.CommandButton("SendEmail")}},
-      {"Web site", {screen.CommandButton("GoWebSite"), screen.WebSite}},
-  })});
-  const Piece job = build.Group("Job", {build.Fields({
-      {"Ref No:", {{screen.RefNo, {.width = 12}}}},
-      {"Order No:", {{screen.OrderReference, {.width = 12}}}},
-      {"Sales Person", {{screen.SalesPerson, {.width = 20}}}},
-      DateLine("Created", screen.DateCreated, screen.CommandButton("Command9")),
-      DateLine("Completion Date", screen.CompletionDate, screen.CommandButton("Command7")),
-      DateLine("Fitting Date", screen.FittingDate, screen.CommandButton("CmdFittingDate")),
-      {"", {screen.Completed, screen.Lost}},
-  })});
+  const Piece customer = build.Group(
+      "Customer",
+      {build.Fields({
+          {"Name", {screen.Name}},
+          {"Company", {screen.Company}},
+          {"Address", {screen.Address}},
+          {"Town", {screen.Town}},
+          {"County", {screen.County}},
+          {"Post Code",
+           {{screen.PostCode, {.width = 12}}, Builder::Spring(), screen.CommandButton("CmdGetDetails")}},
+          {},
+          {"Home T", {{screen.HomeTelephone, telephone}}},
+          {"Works T", {{screen.WorksTelephone, telephone}}},
+          {"Mobile", {{screen.Mobile, telephone}}},
+          {"Fax T", {{screen.Fax, telephone}}},
+          {"Email", {screen.Email, screen.CommandButton("SendEmail")}},
+          {"Web site", {screen.CommandButton("GoWebSite"), screen.WebSite}},
+      })});
+  const Piece job = build.Group(
+      "Job", {build.Fields({
+                 {"Ref No:", {{screen.RefNo, {.width = 12}}}},
+                 {"Order No:", {{screen.OrderReference, {.width = 12}}}},
+                 {"Sales Person", {{screen.SalesPerson, {.width = 20}}}},
+                 DateLine("Created", screen.DateCreated, screen.CommandButton("Command9")),
+                 DateLine("Completion Date", screen.CompletionDate, screen.CommandButton("Command7")),
+                 DateLine("Fitting Date", screen.FittingDate, screen.CommandButton("CmdFittingDate")),
+                 {"", {screen.Completed, screen.Lost}},
+             })});
   const Piece notes = build.Group("Job notes and a summary for this Job", {build.Field(screen.JobNotes)});
-  const Piece commands = build.Group("Go to", {
-      Commands(build, screen, {"CmdCustomersDatabase", "Command4", "CmdSuppliers", "Command10", "Command2",
-                               "Command11"}),
-      Builder::Gap(1),
-      Commands(build, screen, {"CmdPrint", "Command6", "CmdPrintStatement"}),
-      Builder::Spring(),
-  });
-  return build.Scroll(build.Row({
-      build.Column({customer, Builder::Spring()}).Grow(4),
-      build.Column({job, Builder::Gap(2), notes.Grow()}).Grow(3),
-      commands,
-  }, 5));
+  const Piece commands =
+      build.Group("Go to", {
+                               Commands(build, screen,
+                                        {"CmdCustomersDatabase", "Command4", "CmdSuppliers", "Command10",
+                                         "Command2", "Command11"}),
+                               Builder::Gap(1),
+                               Commands(build, screen, {"CmdPrint", "Command6", "CmdPrintStatement"}),
+                               Builder::Spring(),
+                           });
+  return build.Scroll(build.Row(
+      {
+          build.Column({customer, Builder::Spring()}).Grow(4),
+          build.Column({job, Builder::Gap(2), notes.Grow()}).Grow(3),
+          commands,
+      },
+      5));
 }
 
 Piece SinglesPage(Builder& build, MainScreen& screen) {
-  const TableLook columns = {{{"Item No", "", 7, true}, {"Qty", "", 7, true}, {"Description", "", 30},
-                              {"Unit Price", "", 11, true}, {"Total", "", 11, true}},
+  const TableLook columns = {{{"Item No", "", 7, true},
+                              {"Qty", "", 7, true},
+                              {"Description", "", 30},
+                              {"Unit Price", "", 11, true},
+                              {"Total", "", 11, true}},
                              "Description"};
   Pieces buttons;
   for (Button& button : screen.CmdRooms) buttons.push_back(build.Press(button));
@@ -71,11 +82,11 @@ Piece SinglesPage(Builder& build, MainScreen& screen) {
   Pieces flags;
   for (TickBox& flag : screen.CheckList) flags.push_back(build.Tick(flag));
   const Piece list = build.Group("Check list", {
-      build.Column(flags, 1),
-      Builder::Gap(1),
-      build.Press(screen.CommandButton("UpdateCheckList")),
-      Builder::Spring(),
-  });
+                                                   build.Column(flags, 1),
+                                                   Builder::Gap(1),
+                                                   build.Press(screen.CommandButton("UpdateCheckList")),
+                                                   Builder::Spring(),
+                                               });
   return build.Scroll(build.Row({singles.Grow(3), list.Grow(1)}, 5));
 }
 

@@ -1,5 +1,7 @@
 #include <QGridLayout>
 #include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QToolButton>
 
@@ -12,7 +14,8 @@
 namespace tarvane {
 namespace {
 
-Piece StepButton(Form& form, MainScreen& screen, const char* command_name, const char* icon, const char* tip) {
+Piece StepButton(Form& form, MainScreen& screen, const char* command_name, const char* icon,
+                 const char* tip) {
   auto* button = std::make_unique<QToolButton>().release();
   Button& command = screen.CommandButton(command_name);
   button->setIcon(MakeIcon(icon));
@@ -30,6 +33,7 @@ Piece StepButton(Form& form, MainScreen& screen, const char* command_name, const
 Piece Title(Builder& build, MainScreen& screen) {
   auto* name = std::make_unique<QLabel>().release();
   name->setTextFormat(Qt::PlainText);
+  name->setMinimumWidth(Quarters(20));
   build.form().AddSizer([name] {
     QFont font;
     font.setBold(true);
@@ -52,6 +56,37 @@ Piece Title(Builder& build, MainScreen& screen) {
       build.Press(screen.CommandButton("CmdSize")),
   });
 }
+
+// The strip keeps its height, and scrolls sideways where the window is too narrow for it.
+class StripArea : public QScrollArea {
+ public:
+  explicit StripArea(QWidget* strip) {
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setWidget(strip);
+    setFocusPolicy(Qt::NoFocus);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  }
+  QSize sizeHint() const override { return {widget()->sizeHint().width(), Height()}; }
+  QSize minimumSizeHint() const override { return {Quarters(40), Height()}; }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QScrollArea::resizeEvent(event);
+    if (height() != Height()) updateGeometry();
+  }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::LayoutRequest) updateGeometry();
+    return QScrollArea::eventFilter(watched, event);
+  }
+
+ private:
+  int Height() const {
+    const bool narrow = width() < widget()->minimumSizeHint().width();
+    return widget()->sizeHint().height() + (narrow ? horizontalScrollBar()->sizeHint().height() : 0);
+  }
+};
 
 // Fields in a row, each under its caption.
 class Strip {
@@ -87,7 +122,8 @@ Piece TotalsStrip(Builder& build, MainScreen& screen) {
   Strip strip(build);
   strip.Add("Sub Total Inc Vat/Tax", build.Field(screen.GTotal, amount));
   strip.Spring();
-  strip.Add("Vat/Tax", build.Row({build.Field(screen.cboVAT, percent), build.Field(screen.TxtTotalVat, amount)}, 1));
+  strip.Add("Vat/Tax",
+            build.Row({build.Field(screen.cboVAT, percent), build.Field(screen.TxtTotalVat, amount)}, 1));
   strip.Spring();
   strip.Add("Dis %", build.Field(screen.DiscountPercent, percent));
   strip.Add("Discount", build.Field(screen.TxtTotalDiscount, amount));
@@ -99,12 +135,12 @@ Piece TotalsStrip(Builder& build, MainScreen& screen) {
   strip.Spring();
   strip.Add("Pre Paid", build.Field(screen.PrePaid, amount));
   strip.Add("Bal", build.Field(screen.Balance, strong));
-  Piece box = build.Margin(strip.piece(), 2);
+  const Piece box = build.Margin(strip.piece(), 2);
   box.widget->setAutoFillBackground(true);
   box.widget->setBackgroundRole(QPalette::ToolTipBase);
   const int edge = Quarters(3);
   box.widget->layout()->setContentsMargins(edge, Quarters(1), edge, Quarters(2));
-  return box;
+  return {std::make_unique<StripArea>(box.widget).release()};
 }
 
 namespace {
@@ -133,14 +169,15 @@ void AddKeys(Form& form, MainScreen& screen) {
 Piece JobPanel(Builder& build, MainScreen& screen) {
   AddKeys(build.form(), screen);
   const Piece title = Title(build, screen);
-  const Piece pages = build.Pages(screen.SSTab2, {
-      [build, &screen]() mutable { return CustomerPage(build, screen); },
-      [build, &screen]() mutable { return SinglesPage(build, screen); },
-      [build, &screen]() mutable { return RoomsPage(build, screen); },
-      [build, &screen]() mutable { return HistoryPage(build, screen); },
-  });
+  const Piece pages =
+      build.Pages(screen.SSTab2, {
+                                     [build, &screen]() mutable { return CustomerPage(build, screen); },
+                                     [build, &screen]() mutable { return SinglesPage(build, screen); },
+                                     [build, &screen]() mutable { return RoomsPage(build, screen); },
+                                     [build, &screen]() mutable { return HistoryPage(build, screen); },
+                                 });
   const Piece top = build.Margin(title);
-  return build.Scroll(build.Column({top, pages, TotalsStrip(build, screen)}, 0), 0);
+  return build.Column({top, pages, TotalsStrip(build, screen)}, 0);
 }
 
 }  // namespace tarvane

@@ -11,19 +11,23 @@ void BuildListAdminForm(Form& form) {
   Pieces options;
   for (OptionButton& option : screen.Options) options.push_back(build.Tick(option));
   options.push_back(Builder::Gap(1));
-  options.push_back(build.Row({build.Press(screen.CMDLOAD, true), build.Press(screen.CMDNEW), Builder::Spring()}));
+  options.push_back(
+      build.Row({build.Press(screen.CMDLOAD, true), build.Press(screen.CMDNEW), Builder::Spring()}));
   options.push_back(Builder::Spring());
   const Piece choice = build.Group("Option lists", {build.Column(options, 1).Grow()});
-  const Piece edit = build.Column({build.Press(screen.CMDADD), build.Press(screen.CMDDELETE),
-                                   build.Press(screen.CMDCLEAR), build.Press(screen.CMDSAVE, true),
-                                   Builder::Spring()}, 1);
+  const Piece edit =
+      build.Column({build.Press(screen.CMDADD), build.Press(screen.CMDDELETE), build.Press(screen.CMDCLEAR),
+                    build.Press(screen.CMDSAVE, true), Builder::Spring()},
+                   1);
   const Piece entries = build.Group("Entries", {build.Row({build.List(screen.lstData), edit}).Grow()});
-  FillDialog(form, {
-      build.Row({choice, Builder::Gap(3), entries.Grow()}).Grow(),
-      build.Fields({{"List Location: ", {{screen.txtLog}}}}),
-      build.Text(screen.Note, true),
-      build.Row({Builder::Spring(), build.Press(screen.Command1)}),
-  }, &screen.Command1);
+  FillDialog(form,
+             {
+                 build.Row({choice, Builder::Gap(3), entries.Grow()}).Grow(),
+                 build.Fields({{"List Location: ", {{screen.txtLog}}}}),
+                 build.Text(screen.Note, true),
+                 build.Row({Builder::Spring(), build.Press(screen.Command1)}),
+             },
+             &screen.Command1);
 }
 
 }  // namespace tarvane

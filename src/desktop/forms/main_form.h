@@ -12,7 +12,8 @@ class MainScreen;
 
 // Parts of the main window.
 
-// Menus with the names that the command table gives; `&View` for the looks of the windows is the desktop's own.
+// Menus with the names that the command table gives; `&View` for the looks of the windows is the desktop's
+// own.
 void FillMenus(Form& form, MainScreen& screen, QMenuBar& bar);
 void FillToolBar(Form& form, MainScreen& screen, QToolBar& bar);
 

@@ -62,8 +62,10 @@ void AddViewMenu(Form& form, QMenuBar& bar, QAction* before) {
 }
 
 // Keys of the desktop's own, for what a shop does all day.
-constexpr std::pair<std::string_view, const char*> kKeys[] = {
-    {"munNew2", "Ctrl+N"}, {"Save Records", "Ctrl+S"}, {"MuuNextRec", "Alt+PgDown"}, {"MnuPrevRec", "Alt+PgUp"}};
+constexpr std::pair<std::string_view, const char*> kKeys[] = {{"munNew2", "Ctrl+N"},
+                                                              {"Save Records", "Ctrl+S"},
+                                                              {"MuuNextRec", "Alt+PgDown"},
+                                                              {"MnuPrevRec", "Alt+PgUp"}};
 
 void AddKey(const Command& command, QAction* action) {
   for (const auto& [name, keys] : kKeys) {

@@ -12,7 +12,8 @@ namespace tarvane {
 namespace {
 
 const TableLook kItemColumns = {
-    {{"Line", "", 5, true}, {"Description", "", 30}, {"Item No", "", 8}, {"Price", "", 10, true}}, "Description"};
+    {{"Line", "", 5, true}, {"Description", "", 30}, {"Item No", "", 8}, {"Price", "", 10, true}},
+    "Description"};
 
 // Names to click on with their totals, always beside the room.
 Piece RoomTotals(Builder& build, MainScreen& screen) {
@@ -51,31 +52,36 @@ Piece Room(Builder& build, MainScreen& screen, std::size_t room) {
       build.Field(screen.RoomTotal[room], {.width = 9, .number = true, .strong = true}),
   });
   return build.Column({build.Table(screen.RoomItemGrid[room], kItemColumns).Grow(3), bottom,
-                       build.Field(screen.RoomSummary[room]).Grow(2)}, 1);
+                       build.Field(screen.RoomSummary[room]).Grow(2)},
+                      1);
 }
 
 }  // namespace
 
 Piece RoomsPage(Builder& build, MainScreen& screen) {
   const Piece totals = RoomTotals(build, screen);
-  const Piece commands = build.Row({
-      build.Press(screen.CommandButton("Command1", 0), true),
-      build.Press(screen.CommandButton("Command1", 2)),
-      build.Press(screen.CmdDeleteFromRoom),
-      Builder::Spring(),
-      build.Press(screen.CommandButton("Command1", 1)),
-      build.Press(screen.CommandButton("Command1", 3)),
-  }, 1);
+  const Piece commands = build.Row(
+      {
+          build.Press(screen.CommandButton("Command1", 0), true),
+          build.Press(screen.CommandButton("Command1", 2)),
+          build.Press(screen.CmdDeleteFromRoom),
+          Builder::Spring(),
+          build.Press(screen.CommandButton("Command1", 1)),
+          build.Press(screen.CommandButton("Command1", 3)),
+      },
+      1);
   std::vector<Builder::PageBuilder> rooms;
   for (std::size_t room = 0; room < kRoomCount; ++room) {
     rooms.push_back([build, &screen, room]() mutable { return Room(build, screen, room); });
   }
   const Piece item = build.Group("Selected item", {build.Field(screen.Text1, {.line_mark = '~'})});
   const Piece pages = build.Pages(screen.SSTab1, std::move(rooms), item.Grow(1));
-  return build.Margin(build.Row({
-      totals,
-      build.Column({commands, pages}, 2).Grow(),
-  }, 4));
+  return build.Scroll(build.Row(
+      {
+          totals,
+          build.Column({commands, pages}, 2).Grow(),
+      },
+      4));
 }
 
 }  // namespace tarvane

@@ -31,18 +31,22 @@ Piece Picture() {
 void BuildSplashForm(Form& form) {
   auto& screen = static_cast<frmSplash&>(form.screen());
   Builder build(form);
-  const Piece texts = build.Column({
-      Builder::Spring(),
-      Enlarged(build.Text(screen.lblProductName), 240),
-      build.Text("Curtain and blind estimating", true),
-      build.Row({build.Text("Version", true), build.Text(screen.lblVersion), Builder::Spring()}, 1),
-      Builder::Spring(),
-  }, 1);
-  FillDialog(form, {
-      build.Row({Builder::Gap(4), Picture(), Builder::Gap(4), texts, Builder::Gap(8)}),
-      Builder::Gap(2),
-      build.Row({Builder::Spring(), build.Press(screen.Command1, true)}),
-  }, &screen.Command1);
+  const Piece texts = build.Column(
+      {
+          Builder::Spring(),
+          Enlarged(build.Text(screen.lblProductName), 240),
+          build.Text("Curtain and blind estimating", true),
+          build.Row({build.Text("Version", true), build.Text(screen.lblVersion), Builder::Spring()}, 1),
+          Builder::Spring(),
+      },
+      1);
+  FillDialog(form,
+             {
+                 build.Row({Builder::Gap(4), Picture(), Builder::Gap(4), texts, Builder::Gap(8)}),
+                 Builder::Gap(2),
+                 build.Row({Builder::Spring(), build.Press(screen.Command1, true)}),
+             },
+             &screen.Command1);
 }
 
 }  // namespace tarvane

@@ -14,8 +14,8 @@
 #include "desktop/step_bar.h"
 #include "desktop/text.h"
 #include "desktop/theme.h"
-#include "desktop/windows.h"
 #include "desktop/window_drawing.h"
+#include "desktop/windows.h"
 
 namespace tarvane {
 namespace {
@@ -45,7 +45,9 @@ void PutOnStrip(const Piece& piece) {
 }
 
 // The total once it has been worked out, what the parts come to before that.
-bool TotalIsKnown(const MainCWizard& wizard) { return wizard.step() == kLastStep && !wizard.CmdGetInfo.enabled(); }
+bool TotalIsKnown(const MainCWizard& wizard) {
+  return wizard.step() == kLastStep && !wizard.CmdGetInfo.enabled();
+}
 
 Piece CostTag(Builder& build, MainCWizard& wizard) {
   auto* amount = std::make_unique<QLabel>().release();
@@ -75,13 +77,17 @@ Piece Captioned(Builder& build, const char* caption, const Piece& field) {
 }
 
 Piece Header(Builder& build, MainCWizard& wizard) {
-  const Piece strip = build.Margin(build.Row({
-      Captioned(build, "Room Ref", build.Field(wizard.TxtRoom, {.width = 16})),
-      Captioned(build, "Description", build.Field(wizard.TxtDescription).Grow()),
-      Captioned(build, "Item No", build.Field(wizard.ItemNumber, {.width = 9, .number = true})),
-      Builder::Gap(4),
-      CostTag(build, wizard),
-  }, 3), 2);
+  const Piece strip = build.Margin(
+      build.Row(
+          {
+              Captioned(build, "Room Ref", build.Field(wizard.TxtRoom, {.width = 16})),
+              Captioned(build, "Description", build.Field(wizard.TxtDescription).Grow()),
+              Captioned(build, "Item No", build.Field(wizard.ItemNumber, {.width = 9, .number = true})),
+              Builder::Gap(4),
+              CostTag(build, wizard),
+          },
+          3),
+      2);
   PutOnStrip(strip);
   return strip;
 }
@@ -200,7 +206,8 @@ Piece StepsArea(Builder& build, MainCWizard& wizard) {
   auto* pages = std::make_unique<QWidget>().release();
   auto* stack = std::make_unique<QStackedLayout>(pages).release();
   FillPages(build, wizard, stack);
-  const Piece bar = build.Margin(build.Column({Steps(build, wizard, stack), Help(build, wizard)}, 1), kStripMargin);
+  const Piece bar =
+      build.Margin(build.Column({Steps(build, wizard, stack), Help(build, wizard)}, 1), kStripMargin);
   area->setLayout(build.Column({bar, build.Rule(), PagesArea(build, wizard, pages)}, 0).layout);
   area->layout()->setContentsMargins(0, 0, 0, 0);
   build.form().Bind(wizard.StepsPanel, area, nullptr);
@@ -226,9 +233,15 @@ void ShareAccessKey(Form& form, MainCWizard& wizard) {
 
 Piece Footer(Builder& build, MainCWizard& wizard) {
   const Piece footer = build.Margin(build.Row({
-      build.Press(wizard.CmdBack), build.Press(wizard.CmdNext, true), Builder::Spring(), build.Press(wizard.CmdUpdateAndClose, true),
-      build.Press(wizard.CmdFinishTwo, true), Builder::Gap(2), build.Press(wizard.CmdClose),
-  }), 2);
+                                        build.Press(wizard.CmdBack),
+                                        build.Press(wizard.CmdNext, true),
+                                        Builder::Spring(),
+                                        build.Press(wizard.CmdUpdateAndClose, true),
+                                        build.Press(wizard.CmdFinishTwo, true),
+                                        Builder::Gap(2),
+                                        build.Press(wizard.CmdClose),
+                                    }),
+                                    2);
   PutOnStrip(footer);
   ShareAccessKey(build.form(), wizard);
   return footer;
@@ -238,16 +251,17 @@ Piece Footer(Builder& build, MainCWizard& wizard) {
 void OrderFoot(Form& form, MainCWizard& wizard) {
   QWidget* last = nullptr;
   for (const Control* control : std::initializer_list<const Control*>{
-           &wizard.CmdNext, &wizard.CmdBack, &wizard.CmdUpdateAndClose, &wizard.CmdFinishTwo, &wizard.CmdClose,
-           &wizard.CmdSelect, &wizard.CmdCurOptions, &wizard.CmdListOptions, &wizard.CmdConverter,
-           &wizard.CmdCalculator}) {
+           &wizard.CmdNext, &wizard.CmdBack, &wizard.CmdUpdateAndClose, &wizard.CmdFinishTwo,
+           &wizard.CmdClose, &wizard.CmdSelect, &wizard.CmdCurOptions, &wizard.CmdListOptions,
+           &wizard.CmdConverter, &wizard.CmdCalculator}) {
     auto* widget = qobject_cast<QWidget*>(form.WidgetOf(*control));
     if (last != nullptr) QWidget::setTabOrder(last, widget);
     last = widget;
   }
 }
 
-// The worker types as soon as the window is there. Where she comes back to the first step, Next has the focus.
+// The worker types as soon as the window is there. Where she comes back to the first step, Next has the
+// focus.
 void StartAtDescription(Form& form, MainCWizard& wizard) {
   auto* description = qobject_cast<QWidget*>(form.WidgetOf(wizard.TxtDescription));
   QTimer::singleShot(0, description, [description] { description->setFocus(Qt::TabFocusReason); });
@@ -286,7 +300,8 @@ Piece Results(Builder& build, const Pieces& pieces) {
 Piece Results(Builder& build, int digits, const std::vector<FieldLine>& lines) {
   const Piece fields = build.Fields(lines);
   auto* grid = static_cast<QGridLayout*>(fields.layout);
-  build.form().AddSizer([grid, digits] { grid->setColumnMinimumWidth(0, Digits(digits) - Quarters(kStripMargin)); });
+  build.form().AddSizer(
+      [grid, digits] { grid->setColumnMinimumWidth(0, Digits(digits) - Quarters(kStripMargin)); });
   return Results(build, {fields});
 }
 
@@ -311,8 +326,11 @@ void BuildWizardForm(Form& form) {
   Builder build(form);
   auto* window = static_cast<DialogWindow*>(form.window());
   // Only the step scrolls: the head and the foot stay in view.
-  window->setLayout(build.Column({Header(build, wizard), StepsArea(build, wizard).Grow(),
-                                  ListsArea(build, wizard).Grow(), Footer(build, wizard)}, 0).layout);
+  window->setLayout(build
+                        .Column({Header(build, wizard), StepsArea(build, wizard).Grow(),
+                                 ListsArea(build, wizard).Grow(), Footer(build, wizard)},
+                                0)
+                        .layout);
   window->layout()->setContentsMargins(0, 0, 0, 0);
   window->resize(Digits(160), Quarters(152));
   window->escaped = [&form, &wizard] {

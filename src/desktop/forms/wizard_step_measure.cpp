@@ -25,14 +25,14 @@ constexpr std::array<MeasureLine, 6> kLines = {{
     {"Fabric Width", &MainCWizard::FabricWidthIns, &MainCWizard::FabricWidthCm, true},
     {"Fullness = 2 ( 1 for Roman Blinds)", &MainCWizard::Fullness, &MainCWizard::FullnessMirror, false},
     {"Finished Length", &MainCWizard::FinishedLengthIns, &MainCWizard::FinishedLengthCm, true},
-    {"PR (Enter 0 if using plain fabric)", &MainCWizard::PatternRepeatIns, &MainCWizard::PatternRepeatCm, true},
+    {"PR (Enter 0 if using plain fabric)", &MainCWizard::PatternRepeatIns, &MainCWizard::PatternRepeatCm,
+     true},
     {"Hemming Allow (Heads and Hems)", &MainCWizard::HemAllowanceIns, &MainCWizard::HemAllowanceCm, true},
 }};
 
 Piece CentimetreUnit(Builder& build, MainCWizard& wizard) {
-  return FollowingText(build, [&wizard] {
-    return std::string(wizard.UnitLabel[0].caption() == "mm" ? "mm" : "cm");
-  });
+  return FollowingText(
+      build, [&wizard] { return std::string(wizard.UnitLabel[0].caption() == "mm" ? "mm" : "cm"); });
 }
 
 void NameBox(const Piece& box, const char* caption, const char* column) {
@@ -70,37 +70,43 @@ Piece MeasureTable(Builder& build, MainCWizard& wizard) {
 }
 
 Piece Choices(Builder& build, MainCWizard& wizard) {
-  return build.Column({
-      build.Group("Convert to:", {build.Row({build.Tick(wizard.UnitCms), build.Tick(wizard.UnitMm),
-                                             Builder::Spring(), build.Press(wizard.CmdHelpTip)})}),
-      Builder::Gap(1),
-      build.Group("Auto Measure", {build.Column({build.Tick(wizard.AutoMeasureGoblet),
-                                                 build.Tick(wizard.AutoMeasureBoxPleat),
-                                                 build.Tick(wizard.OptionCancel)}, 1),
-                                   build.Row({Builder::Spring(), build.Press(wizard.CmdGobletWizard)})}),
-      Builder::Spring(),
-  }, 1);
+  return build.Column(
+      {
+          build.Group("Convert to:", {build.Row({build.Tick(wizard.UnitCms), build.Tick(wizard.UnitMm),
+                                                 Builder::Spring(), build.Press(wizard.CmdHelpTip)})}),
+          Builder::Gap(1),
+          build.Group("Auto Measure",
+                      {build.Column({build.Tick(wizard.AutoMeasureGoblet),
+                                     build.Tick(wizard.AutoMeasureBoxPleat), build.Tick(wizard.OptionCancel)},
+                                    1),
+                       build.Row({Builder::Spring(), build.Press(wizard.CmdGobletWizard)})}),
+          Builder::Spring(),
+      },
+      1);
 }
 
 Piece Requirement(Builder& build, MainCWizard& wizard) {
   const Look count{.width = 10, .number = true};
   const Piece unit = build.Text(wizard.UnitLabel[1], true);
-  return Results(build, kCaptions, {
-      {"Number of Drops. (Widths)", {{wizard.NumberOfDrops, count}, {wizard.CmdCalculate}}},
-      {"Number of Patterns per Drop .", {{wizard.PatternsPerDrop, {.width = 18, .number = true}}}},
-      {"Cuts =", {{wizard.CutLengthIns, Measured("in", 10)}, {wizard.CutLengthCm, count}, {unit}}},
-      {"Metres required", {{wizard.MetresRequired, {.width = 10, .number = true, .unit = "m", .strong = true}},
-                           {wizard.CmdRoundUp},
-                           {wizard.AutoRoundup}}},
-  });
+  return Results(
+      build, kCaptions,
+      {
+          {"Number of Drops. (Widths)", {{wizard.NumberOfDrops, count}, {wizard.CmdCalculate}}},
+          {"Number of Patterns per Drop .", {{wizard.PatternsPerDrop, {.width = 18, .number = true}}}},
+          {"Cuts =", {{wizard.CutLengthIns, Measured("in", 10)}, {wizard.CutLengthCm, count}, {unit}}},
+          {"Metres required",
+           {{wizard.MetresRequired, {.width = 10, .number = true, .unit = "m", .strong = true}},
+            {wizard.CmdRoundUp},
+            {wizard.AutoRoundup}}},
+      });
 }
 
 }  // namespace
 
 Piece MeasurePage(Builder& build, MainCWizard& wizard) {
   return build.Column({
-      build.Row({build.Fields({{"Curtain / Valance Style", {{wizard.CboCurtainStyle}}}}).Grow(), Builder::Gap(2),
-                 build.Tick(wizard.InputInInches)}),
+      build.Row({build.Fields({{"Curtain / Valance Style", {{wizard.CboCurtainStyle}}}}).Grow(),
+                 Builder::Gap(2), build.Tick(wizard.InputInInches)}),
       build.Row({MeasureTable(build, wizard), Builder::Gap(3), Choices(build, wizard).Grow()}),
       Builder::Gap(1),
       Requirement(build, wizard),

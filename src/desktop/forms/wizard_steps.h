@@ -38,6 +38,8 @@ inline constexpr int kMoneyWidth = 10;  // digits
 inline const Look kMoney{.width = kMoneyWidth, .number = true};
 inline const Look kMoneyResult{.width = kMoneyWidth, .number = true, .strong = true};
 
-inline Look Measured(const char* unit, int width = 9) { return {.width = width, .number = true, .unit = unit}; }
+inline Look Measured(const char* unit, int width = 9) {
+  return {.width = width, .number = true, .unit = unit};
+}
 
 }  // namespace tarvane

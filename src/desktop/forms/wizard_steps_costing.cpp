@@ -17,61 +17,71 @@ struct LiningRow {
 };
 
 constexpr LiningRow kLiningRows[] = {
-    {&MainCWizard::LiningNeeded, "Lining Fabric Name", &MainCWizard::TxtLiningName, &MainCWizard::LiningAmount,
-     &MainCWizard::LiningPrice, &MainCWizard::LiningCost},
+    {&MainCWizard::LiningNeeded, "Lining Fabric Name", &MainCWizard::TxtLiningName,
+     &MainCWizard::LiningAmount, &MainCWizard::LiningPrice, &MainCWizard::LiningCost},
     {&MainCWizard::InterliningNeeded, "Interlining Fabric Name", &MainCWizard::TxtInterliningName,
      &MainCWizard::InterliningAmount, &MainCWizard::InterliningPrice, &MainCWizard::InterliningCost},
 };
 
 Piece LiningGroup(Builder& build, MainCWizard& wizard, const LiningRow& row) {
-  const Piece unit = FollowingText(build, [&wizard] {
-    return std::string(wizard.LiningByWidths.on() ? "m" : "widths");
-  });
-  return build.Column({
-      build.Tick(wizard.*row.needed),
-      Lines(build, kCaptions, {
-          {row.name_caption, {{wizard.*row.name}}},
-          {"Amount", {{wizard.*row.amount, {.width = 9, .number = true}}, {unit}}},
-          {"Price", {{wizard.*row.price, kMoney}}},
-      }),
-      Results(build, kCaptions, {{"Costing", {{wizard.*row.cost, kMoneyResult}}}}),
-  }, 1);
+  const Piece unit =
+      FollowingText(build, [&wizard] { return std::string(wizard.LiningByWidths.on() ? "m" : "widths"); });
+  return build.Column(
+      {
+          build.Tick(wizard.*row.needed),
+          Lines(build, kCaptions,
+                {
+                    {row.name_caption, {{wizard.*row.name}}},
+                    {"Amount", {{wizard.*row.amount, {.width = 9, .number = true}}, {unit}}},
+                    {"Price", {{wizard.*row.price, kMoney}}},
+                }),
+          Results(build, kCaptions, {{"Costing", {{wizard.*row.cost, kMoneyResult}}}}),
+      },
+      1);
 }
 
 }  // namespace
 
 Piece FabricPage(Builder& build, MainCWizard& wizard) {
   return build.Column({
-      Lines(build, kCaptions, {
-          {"Fabric Name", {{wizard.FabricName}, {wizard.CmdGetFabricFromDatabase}}},
-          {"Metres required", {{wizard.FabricMetres, Measured("m")}}},
-          {"Price Per Metre Exc Vat/Tax", {{wizard.FabricPrice, kMoney}, {wizard.FabricPriceExVat}}},
-      }),
+      Lines(build, kCaptions,
+            {
+                {"Fabric Name", {{wizard.FabricName}, {wizard.CmdGetFabricFromDatabase}}},
+                {"Metres required", {{wizard.FabricMetres, Measured("m")}}},
+                {"Price Per Metre Exc Vat/Tax", {{wizard.FabricPrice, kMoney}, {wizard.FabricPriceExVat}}},
+            }),
       Results(build, kCaptions, {{"Costing Exc Vat/Tax", {{wizard.FabricCost, kMoneyResult}}}}),
       Builder::Spring(),
   });
 }
 
 Piece TapePage(Builder& build, MainCWizard& wizard) {
-  const Piece tape = build.Group("Tape", {
-      Lines(build, kCaptions, {
-          {"Tape Needed", {{wizard.TxtTape, Measured("m")}}},
-          {"Per Metre =", {{wizard.TapePrice, kMoney}}},
-      }),
-      Advice(build, "The amount of Tape has been worked out automatically by this wizard. You can alter this "
-                    "manually if you wish."),
-      Results(build, kCaptions, {{"Costing Exc Vat/Tax", {{wizard.TapeCost, kMoneyResult}}}}),
-  });
-  const Piece tie_backs = build.Group("Tie Backs", {
-      build.Row({build.Tick(wizard.NoTieBacks), build.Tick(wizard.TieBacksNeeded), Builder::Spring()}, 4),
-      Lines(build, kCaptions, {
-          {"Size", {{wizard.CboTieBacks}}},
-          {"Style", {{wizard.TieBackStyle}}},
-          {"Qty", {{wizard.TxtNoOfTieBacks, {.width = 6, .number = true}}}},
-          {"Unit Price", {{wizard.TxtTieBacksUnitPrice, kMoney}}},
-      }),
-      Results(build, kCaptions, {{"Total Excludes Vat/Tax", {{wizard.TieBackTotal, kMoneyResult}}}}),
-  });
+  const Piece tape = build.Group(
+      "Tape",
+      {
+          Lines(build, kCaptions,
+                {
+                    {"Tape Needed", {{wizard.TxtTape, Measured("m")}}},
+                    {"Per Metre =", {{wizard.TapePrice, kMoney}}},
+                }),
+          Advice(build,
+                 "The amount of Tape has been worked out automatically by this wizard. You can alter this "
+                 "manually if you wish."),
+          Results(build, kCaptions, {{"Costing Exc Vat/Tax", {{wizard.TapeCost, kMoneyResult}}}}),
+      });
+  const Piece tie_backs = build.Group(
+      "Tie Backs",
+      {
+          build.Row({build.Tick(wizard.NoTieBacks), build.Tick(wizard.TieBacksNeeded), Builder::Spring()}, 4),
+          Lines(build, kCaptions,
+                {
+                    {"Size", {{wizard.CboTieBacks}}},
+                    {"Style", {{wizard.TieBackStyle}}},
+                    {"Qty", {{wizard.TxtNoOfTieBacks, {.width = 6, .number = true}}}},
+                    {"Unit Price", {{wizard.TxtTieBacksUnitPrice, kMoney}}},
+                }),
+          Results(build, kCaptions, {{"Total Excludes Vat/Tax", {{wizard.TieBackTotal, kMoneyResult}}}}),
+      });
   return build.Column({tape, Builder::Gap(2), tie_backs, Builder::Spring()});
 }
 
@@ -90,18 +100,20 @@ Piece LiningPage(Builder& build, MainCWizard& wizard) {
 Piece LabourPage(Builder& build, MainCWizard& wizard) {
   constexpr int kLabourCaptions = 34;
   return build.Column({
-      Advice(build, "Labour amounts in the Tarvane System, are based on how many widths are in the Curtains / "
-                    "Valence and can be set here."),
-      Lines(build, kLabourCaptions, {
-          {"Widths", {{wizard.LabourWidths, Measured("widths")}}},
-          {"Price Exc Vat/Tax", {{wizard.LabourPrice, kMoney}}},
-          {"Curtain / Valence Labour (Make Up)", {{wizard.LabourCost, kMoney}}},
-          {""},
-          {"Tie Backs Labour (Make Up)", {{wizard.TieBackLabour, kMoney}}},
-          {""},
-          {"Extra Labour costings", {{wizard.ExtraLabourText}}},
-          {"Extra Labour", {{wizard.ExtraLabour, kMoney}}},
-      }),
+      Advice(build,
+             "Labour amounts in the Tarvane System, are based on how many widths are in the Curtains / "
+             "Valence and can be set here."),
+      Lines(build, kLabourCaptions,
+            {
+                {"Widths", {{wizard.LabourWidths, Measured("widths")}}},
+                {"Price Exc Vat/Tax", {{wizard.LabourPrice, kMoney}}},
+                {"Curtain / Valence Labour (Make Up)", {{wizard.LabourCost, kMoney}}},
+                {""},
+                {"Tie Backs Labour (Make Up)", {{wizard.TieBackLabour, kMoney}}},
+                {""},
+                {"Extra Labour costings", {{wizard.ExtraLabourText}}},
+                {"Extra Labour", {{wizard.ExtraLabour, kMoney}}},
+            }),
       Results(build, kLabourCaptions,
               {{"Total Costing for Labour  Exc Vat/Tax", {{wizard.TotalLabour, kMoneyResult}}}}),
       Builder::Spring(),
