@@ -176,6 +176,8 @@ void MainScreen::AddNewJob() {
 
 void MainScreen::NewRecord() {
   RowSet& jobs = Data1.rows();
+  // What was missing at the start may be there by now; else the worker is told what it is.
+  if (!jobs.IsOpen()) OpenData();
   jobs.MoveLast();
   jobs.AddNew();
   DateCreated.SetText(ShortDate(host().Now()));

@@ -133,6 +133,8 @@ int JobScreen::CurrentMember(std::string_view family) const {
 }
 
 void JobScreen::OpenData() {
+  Data1.Close();
+  Data2.Close();
   database_.emplace(FindFile(folder_, data_file::kJobs));
   // The settings first: jobs with blank percentages take theirs. Without settings there still are jobs.
   std::optional<Fault> no_settings;

@@ -22,8 +22,8 @@ enum class Aspect { kText, kState, kCaption, kEnabled, kVisible, kEntries, kRows
 //   TextField TrackWidthIns{this, "TrackWidthIns"};
 // Members of an array have the same name and an index from 0; -1 stands alone.
 //
-// Set... is what procedures call; User... is what a face calls for something the worker did: it moves the focus
-// as a person would, runs the rules, and tells a fault that no rule covers in a message.
+// Set... is what procedures call; User... is what a face calls for something the worker did: it moves the
+// focus as a person would, runs the rules, and tells a fault that no rule covers in a message.
 class Control {
  public:
   Control(Screen* screen, std::string name, int index = -1);
@@ -119,7 +119,8 @@ class Button : public Control {
  public:
   enum class Kind { kButton, kMenu, kMenuEntry, kToolButton };
 
-  Button(Screen* screen, std::string name, std::string_view caption, int index = -1, Kind kind = Kind::kButton)
+  Button(Screen* screen, std::string name, std::string_view caption, int index = -1,
+         Kind kind = Kind::kButton)
       : Control(screen, std::move(name), index), kind_(kind) {
     SetCaption(caption);
   }

@@ -12,7 +12,8 @@ template <std::size_t count, typename Make>
 auto MakeFamily(Make make) {
   return [&make]<std::size_t... index>(std::index_sequence<index...>) {
     return std::array<decltype(make(0)), count>{{make(static_cast<int>(index))...}};
-  }(std::make_index_sequence<count>());
+  }
+  (std::make_index_sequence<count>());
 }
 
 }  // namespace tarvane

@@ -13,8 +13,8 @@ namespace tarvane {
 class Database;
 
 // A screen's row set together with the fields that show its current row. A bound field's text goes into the
-// row's edit buffer as it changes; another row that becomes current fills the fields (without their rules) and
-// then runs the reposition rules.
+// row's edit buffer as it changes; another row that becomes current fills the fields (without their rules)
+// and then runs the reposition rules.
 class DataSource {
  public:
   DataSource();

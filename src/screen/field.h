@@ -16,7 +16,8 @@ class TextField : public Control {
  public:
   enum class Kind { kLine, kMemo };
 
-  TextField(Screen* screen, std::string name, std::string_view text = "", int index = -1, Kind kind = Kind::kLine)
+  TextField(Screen* screen, std::string name, std::string_view text = "", int index = -1,
+            Kind kind = Kind::kLine)
       : Control(screen, std::move(name), index), text_(text), kind_(kind) {}
 
   const std::string& text() const { return text_; }
@@ -42,8 +43,8 @@ class TextField : public Control {
   void OnTyped(Rule rule) { typed_.push_back(std::move(rule)); }
   void OnEnterKey(Rule rule) { enter_key_.push_back(std::move(rule)); }
 
-  // The worker's text: takes the focus, sets the text, then runs the rules of OnTyped. Faults in a message where
-  // the field belongs to a row set without a current row.
+  // The worker's text: takes the focus, sets the text, then runs the rules of OnTyped. Faults in a message
+  // where the field belongs to a row set without a current row.
   void UserType(std::string_view text);
   void UserEnterKey();
 

@@ -88,7 +88,8 @@ void TableGrid::FindColumns() const {
   if (!columns_.empty() || rows_ == nullptr || !rows_->IsOpen()) return;
   columns_ = wanted_;
   if (columns_.empty()) {
-    for (int column = 0; column < rows_->ColumnCount(); ++column) columns_.push_back({rows_->ColumnName(column), ""});
+    for (int column = 0; column < rows_->ColumnCount(); ++column)
+      columns_.push_back({rows_->ColumnName(column), ""});
   }
   indexes_.clear();
   for (Column& column : columns_) {

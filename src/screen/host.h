@@ -30,7 +30,7 @@ enum class Icon { kNone, kInformation, kQuestion, kWarning, kError };
 struct Question {
   std::string title;
   std::string text;
-  std::vector<Answer> answers;  // the buttons, in order; the last one is what closing the box gives
+  std::vector<Answer> answers;   // the buttons, in order; the last one is what closing the box gives
   Answer preset = Answer::kYes;  // the button that Enter presses
   Icon icon = Icon::kQuestion;
 };

@@ -42,8 +42,8 @@ class Screen {
 
   // In the order of declaration.
   const std::vector<Control*>& controls() const { return controls_; }
-  // By name or alias; nullptr where there is none. `index` -1: the one that stands alone, or, for an array, the
-  // member that CurrentMember names.
+  // By name or alias; nullptr where there is none. `index` -1: the one that stands alone, or, for an array,
+  // the member that CurrentMember names.
   Control* Find(std::string_view name, int index = -1) const;
 
   // As the process's first screen; returns after it is closed.
@@ -64,7 +64,8 @@ class Screen {
   // The control with the focus loses it to none.
   void LeaveFocus();
 
-  // Runs what the worker did; a fault that no rule covers is told in a message and leaves the screen as it is.
+  // Runs what the worker did; a fault that no rule covers is told in a message and leaves the screen as it
+  // is.
   void Guard(const std::function<void()>& action);
 
   // Messages and questions under this screen's host.

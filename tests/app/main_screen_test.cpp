@@ -236,6 +236,9 @@ TEST_F(MainScreenTest, MissingFilesAreNoHindrance) {
     EXPECT_EQ(main.RecordBar.caption(), "");
     EXPECT_THAT(main.SalesPerson.entries(), IsEmpty());
     EXPECT_THAT(host_.messages, IsEmpty());
+    Press(main, "munNew2");
+    EXPECT_THAT(host_.messages,
+                ElementsAre(HasSubstr("Tarvane.mdb could not be opened: the file is missing")));
     // Everything that is enabled, pressed once: told in messages, and the program stands.
     for (const Command& command : Commands()) {
       if (command.name != "munexit") Press(main, command.name, command.index);

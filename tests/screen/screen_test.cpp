@@ -24,7 +24,9 @@ class QuietHost : public Host {
   }
   void Message(std::string_view, std::string_view text, Icon) override { said.emplace_back(text); }
   Answer Ask(const Question& question) override { return question.answers.back(); }
-  std::optional<std::string> Input(std::string_view, std::string_view, std::string_view) override { return {}; }
+  std::optional<std::string> Input(std::string_view, std::string_view, std::string_view) override {
+    return {};
+  }
   std::optional<std::filesystem::path> ChooseFile(FileChoice, std::string_view, std::string_view) override {
     return {};
   }
