@@ -4,7 +4,7 @@
 
 #include "curtain_wizard/wizard.h"
 #include "job/job_screen.h"
-#include "support/quiet_host.h"
+#include "support/silent_host.h"
 #include "support/shop_folder.h"
 
 // A whole curtain item as a worker makes it: typed measurements, all seven steps, prices, trims, Get Info,
@@ -79,7 +79,7 @@ class Shop {
   ShopFolder folder_;
 
  public:
-  QuietHost host;
+  SilentHost host;
   JobScreen job{host, folder_.path()};
 };
 

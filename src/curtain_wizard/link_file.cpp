@@ -2,6 +2,7 @@
 
 #include "curtain_wizard/item_record.h"
 #include "curtain_wizard/wizard.h"
+#include "job/room_text.h"
 #include "store/data_files.h"
 
 namespace tarvane {
@@ -66,12 +67,6 @@ std::string LinkText(MainCWizard& wizard) {
   return text;
 }
 
-std::string_view Trimmed(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return "";
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 }  // namespace
 
 void MainCWizard::MarkLinkSaved() { saved_link_ = LinkText(*this); }
@@ -118,7 +113,7 @@ void MainCWizard::ReadLink(const std::filesystem::path& file) {
                 " of " + std::to_string(kLinkLines) + " lines.");
   }
   const auto fields = LinkFields(*this);
-  for (std::size_t i = 0; i < fields.size(); ++i) fields[i].Restore(Trimmed(lines[i]));
+  for (std::size_t i = 0; i < fields.size(); ++i) fields[i].Restore(TrimSpaces(lines[i]));
   ApplyRestored();
 }
 

@@ -36,7 +36,7 @@ void MakeDatabase(const fs::path& file, std::string_view name, const fs::path& d
   transaction.Commit();
 }
 
-void AddDatabases(std::vector<Piece>& pieces, const fs::path& data) {
+void AddDatabases(std::vector<LaidDownPiece>& pieces, const fs::path& data) {
   std::vector<std::string_view> names;
   for (const TableDefinition& table : TableDefinitions()) {
     if (std::ranges::find(names, table.file) == names.end()) names.push_back(table.file);
@@ -47,7 +47,7 @@ void AddDatabases(std::vector<Piece>& pieces, const fs::path& data) {
   }
 }
 
-void AddTextFiles(std::vector<Piece>& pieces, const fs::path& data) {
+void AddTextFiles(std::vector<LaidDownPiece>& pieces, const fs::path& data) {
   for (const std::string_view name : kTextFiles) {
     pieces.push_back({std::string(name), [name, data](const fs::path& file) {
                         ReplaceFile(file, JoinLines(SplitLines(ReadDataFile(data / name))));
@@ -55,7 +55,7 @@ void AddTextFiles(std::vector<Piece>& pieces, const fs::path& data) {
   }
 }
 
-void AddFonts(std::vector<Piece>& pieces, const fs::path& data) {
+void AddFonts(std::vector<LaidDownPiece>& pieces, const fs::path& data) {
   std::error_code error;
   std::vector<fs::path> sources;
   for (const auto& entry : fs::directory_iterator(data / kFontsFolder, error))
@@ -69,8 +69,8 @@ void AddFonts(std::vector<Piece>& pieces, const fs::path& data) {
 
 }  // namespace
 
-std::vector<Piece> Pieces(const fs::path& data) {
-  std::vector<Piece> pieces;
+std::vector<LaidDownPiece> LaidDownPieces(const fs::path& data) {
+  std::vector<LaidDownPiece> pieces;
   AddDatabases(pieces, data);
   AddTextFiles(pieces, data);
   AddFonts(pieces, data);

@@ -8,7 +8,7 @@
 namespace tarvane {
 
 // One file of a program folder.
-struct Piece {
+struct LaidDownPiece {
   std::string name;  // below the program folder, with forward slashes
   // Makes the file, which isn't there yet, in a folder that is. Faults with the file and the cause.
   std::function<void(const std::filesystem::path& file)> make;
@@ -16,6 +16,6 @@ struct Piece {
 
 // Every file that is laid down, in the order in which it is told: databases, settings, lists, fonts. `data`
 // is read as the pieces are made, apart from the names of the fonts.
-std::vector<Piece> Pieces(const std::filesystem::path& data);
+std::vector<LaidDownPiece> LaidDownPieces(const std::filesystem::path& data);
 
 }  // namespace tarvane

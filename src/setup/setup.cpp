@@ -58,7 +58,7 @@ class StagingFolder {
   fs::path path_;
 };
 
-bool IsThere(const fs::path& folder, const Piece& piece) {
+bool IsThere(const fs::path& folder, const LaidDownPiece& piece) {
   const fs::path file = FindFile(folder, piece.name);
   std::error_code error;
   const fs::file_status status = fs::status(file, error);
@@ -68,15 +68,15 @@ bool IsThere(const fs::path& folder, const Piece& piece) {
   return fs::exists(fs::symlink_status(file, error));
 }
 
-void Stage(const fs::path& staging, const std::vector<Piece>& pieces) {
-  for (const Piece& piece : pieces) {
+void Stage(const fs::path& staging, const std::vector<LaidDownPiece>& pieces) {
+  for (const LaidDownPiece& piece : pieces) {
     const fs::path file = staging / piece.name;
     MakeFolder(file.parent_path());
     piece.make(file);
   }
 }
 
-void Publish(const fs::path& staging, const fs::path& folder, const Piece& piece) {
+void Publish(const fs::path& staging, const fs::path& folder, const LaidDownPiece& piece) {
   const fs::path target = FindFile(folder, piece.name);
   MakeFolder(target.parent_path());
   std::error_code error;
@@ -85,9 +85,9 @@ void Publish(const fs::path& staging, const fs::path& folder, const Piece& piece
 }
 
 // What is missing is made and moved into place; the sample shop needs the whole folder to be made in.
-void LayDown(const SetupOptions& options, const std::vector<Piece>& pieces, const std::vector<bool>& there,
-             bool sample, const SetupReport& report) {
-  std::vector<Piece> missing;
+void LayDown(const SetupOptions& options, const std::vector<LaidDownPiece>& pieces,
+             const std::vector<bool>& there, bool sample, const SetupReport& report) {
+  std::vector<LaidDownPiece> missing;
   for (std::size_t i = 0; i < pieces.size(); ++i) {
     if (!there[i]) missing.push_back(pieces[i]);
   }
@@ -109,10 +109,10 @@ void LayDown(const SetupOptions& options, const std::vector<Piece>& pieces, cons
 void SetUpFolder(const SetupOptions& options, const SetupReport& report) {
   const bool created = MakeFolder(options.folder);
   try {
-    const std::vector<Piece> pieces = Pieces(options.data);
+    const std::vector<LaidDownPiece> pieces = LaidDownPieces(options.data);
     std::vector<bool> there;
     bool jobs_there = false;
-    for (const Piece& piece : pieces) {
+    for (const LaidDownPiece& piece : pieces) {
       there.push_back(IsThere(options.folder, piece));
       if (piece.name == data_file::kJobs) jobs_there = there.back();
     }

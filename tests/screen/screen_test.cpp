@@ -2,45 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <deque>
+#include "support/fake_host.h"
 
 namespace tarvane {
 namespace {
-
-// Serves modal screens with queued actions and keeps what was said.
-class QuietHost : public Host {
- public:
-  std::deque<std::function<void(Screen&)>> visits;
-  std::vector<std::string> said;
-
-  void RunModal(Screen& screen) override {
-    said.push_back("show " + screen.name());
-    while (!screen.is_closed() && !visits.empty()) {
-      auto visit = std::move(visits.front());
-      visits.pop_front();
-      visit(screen);
-    }
-    screen.Close();
-  }
-  void Message(std::string_view, std::string_view text, Icon) override { said.emplace_back(text); }
-  Answer Ask(const Question& question) override { return question.answers.back(); }
-  std::optional<std::string> Input(std::string_view, std::string_view, std::string_view) override {
-    return {};
-  }
-  std::optional<std::filesystem::path> ChooseFile(FileChoice, std::string_view, std::string_view) override {
-    return {};
-  }
-  void Beep() override {}
-  void SetBusy(bool) override {}
-  DateTime Now() override { return {}; }
-  int RandomDigit() override { return 4; }
-  std::string ClipboardText() override { return ""; }
-  void SetClipboardText(std::string_view) override {}
-  void Launch(std::string_view) override {}
-  void PrintPages(const std::vector<PrintedPage>&) override {}
-  void SetUpPrinter() override {}
-  void EndProcess() override { std::abort(); }
-};
 
 class Child : public Screen {
  public:
@@ -102,7 +67,7 @@ class Parent : public Screen {
 using Trace = std::vector<std::string>;
 
 TEST(Screen, TypingMovesTheFocusAndRunsTheRulesOnce) {
-  QuietHost host;
+  FakeHost host;
   Parent screen(host);
   screen.Inches.UserType("54");
   screen.Inches.UserType("54");
@@ -118,31 +83,31 @@ TEST(Screen, TypingMovesTheFocusAndRunsTheRulesOnce) {
 }
 
 TEST(Screen, AParentIsActivatedAfterItsChildClosedAndBeforeTheCallerGoesOn) {
-  QuietHost host;
+  FakeHost host;
   Parent screen(host);
-  host.visits.push_back([](Screen& top) { dynamic_cast<Parent&>(top).Open.UserPress(); });
-  host.visits.push_back([](Screen& top) { dynamic_cast<Child&>(top).Done.UserPress(); });
+  host.OnShow<Parent>([](Parent& parent) { parent.Open.UserPress(); });
+  host.OnShow<Child>([](Child& child) { child.Done.UserPress(); });
   screen.RunAsMain();
-  EXPECT_EQ(host.said, (Trace{"show Parent", "show Child"}));
+  EXPECT_EQ(host.shown, (Trace{"Parent", "Child"}));
   EXPECT_EQ(screen.trace, (Trace{"activate", "open", "activate", "after"}));
 }
 
 TEST(Screen, AFaultEndsTheActionIsToldAndLeavesTheScreen) {
-  QuietHost host;
+  FakeHost host;
   Parent screen(host);
   screen.Fail.UserPress();
-  EXPECT_EQ(host.said, Trace{"it went wrong"});
+  EXPECT_EQ(host.messages, Trace{"it went wrong"});
   EXPECT_EQ(screen.Inches.text(), "half");
 
-  host.said.clear();
+  host.messages.clear();
   screen.child.fault_in_load = true;
   screen.Open.UserPress();
-  EXPECT_EQ(host.said, Trace{"no file"});
+  EXPECT_EQ(host.messages, Trace{"no file"});
   EXPECT_FALSE(screen.child.is_shown());
 }
 
 TEST(Screen, TheCloseButtonAsksFirst) {
-  QuietHost host;
+  FakeHost host;
   Child child(host);
   child.may_close = false;
   child.UserClose();
@@ -153,7 +118,7 @@ TEST(Screen, TheCloseButtonAsksFirst) {
 }
 
 TEST(Screen, FindsControlsByNameAliasAndIndex) {
-  QuietHost host;
+  FakeHost host;
   Parent screen(host);
   screen.Inches.AddAlias("Text9");
   EXPECT_EQ(screen.Find("Text9"), &screen.Inches);
@@ -166,7 +131,7 @@ TEST(Screen, FindsControlsByNameAliasAndIndex) {
 }
 
 TEST(Controls, TicksAndOptions) {
-  QuietHost host;
+  FakeHost host;
   Parent screen(host);
   screen.Lined.Set(true);
   EXPECT_TRUE(screen.trace.empty());
@@ -183,7 +148,7 @@ TEST(Controls, TicksAndOptions) {
 }
 
 TEST(Controls, AControlInAHiddenPanelIsNotShown) {
-  QuietHost host;
+  FakeHost host;
   Parent screen(host);
   screen.Inches.SetPanel(&screen.Step);
   screen.Step.SetVisible(false);
@@ -192,7 +157,7 @@ TEST(Controls, AControlInAHiddenPanelIsNotShown) {
 }
 
 TEST(Controls, TabsMayBeGated) {
-  QuietHost host;
+  FakeHost host;
   Parent screen(host);
   screen.Tabs.SetGate([](int tab) { return tab != 2; });
   screen.Tabs.UserSelect(2);
@@ -204,7 +169,7 @@ TEST(Controls, TabsMayBeGated) {
 }
 
 TEST(HeldGrid, TheCursorStaysOnARowWhileThereIsOne) {
-  QuietHost host;
+  FakeHost host;
   Parent screen(host);
   HeldGrid& grid = screen.Rows0;
   EXPECT_EQ(grid.selected_row(), 0);

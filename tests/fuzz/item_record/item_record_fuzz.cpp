@@ -8,7 +8,7 @@
 #include "curtain_wizard/wizard.h"
 #include "job/job_screen.h"
 #include "job/room_text.h"
-#include "support/quiet_host.h"
+#include "support/silent_host.h"
 #include "support/shop_folder.h"
 
 // An item is opened from a record that may be any text, taken through all steps and saved; what was saved
@@ -32,7 +32,7 @@ class Shop {
   ShopFolder folder_;
 
  public:
-  QuietHost host;
+  SilentHost host;
   JobScreen job{host, folder_.path()};
 };
 

@@ -11,7 +11,7 @@ namespace tarvane {
 
 // A host for programs that only count time or look for crashes: it says yes to every question, has no input
 // to give, and runs `step` on the screen that is shown.
-class QuietHost : public Host {
+class SilentHost : public Host {
  public:
   std::function<void(Screen&)> step;
 
