@@ -4,8 +4,7 @@
 
 #include "curtain_wizard/wizard.h"
 #include "job/job_screen.h"
-#include "support/silent_host.h"
-#include "support/shop_folder.h"
+#include "support/silent_shop.h"
 
 // A whole curtain item as a worker makes it: typed measurements, all seven steps, prices, trims, Get Info,
 // and its line in a room.
@@ -67,25 +66,9 @@ void ClearRoom(JobScreen& job) {
   job.RoomSummary[0].SetText("");
 }
 
-class Shop {
- public:
-  Shop() {
-    folder_.AddSettings();
-    folder_.AddJob({});
-    job.OpenData();
-  }
-
- private:
-  ShopFolder folder_;
-
- public:
-  SilentHost host;
-  JobScreen job{host, folder_.path()};
-};
-
 // One open wizard, taken back to its first step for each item.
 void WholeItem(benchmark::State& state) {
-  Shop shop;
+  SilentShop shop;
   MainCWizard wizard(shop.host, shop.job);
   wizard.RoomIndex.SetText("0");
   shop.host.step = [&](Screen&) {
@@ -107,7 +90,7 @@ BENCHMARK(WholeItem)->Unit(benchmark::kMicrosecond);
 
 // The same with a wizard of its own for each item, its lists and options read from their files.
 void WholeItemFromOpeningTheWizard(benchmark::State& state) {
-  Shop shop;
+  SilentShop shop;
   std::size_t next = 0;
   for (auto _ : state) {
     ClearRoom(shop.job);

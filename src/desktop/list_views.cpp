@@ -132,17 +132,35 @@ class LineDelegate : public QStyledItemDelegate {
 };
 
 // What the worker does in a list is told when it is done: a row once the mouse is let go or the key has
-// moved, and an opening by double click or Enter.
-class GridTable : public QTableView {
+// moved, and an opening by double click or Enter. -1 is the empty space below the rows.
+template <typename View>
+class PickingView : public View {
  public:
   std::function<void(int)> picked;
   std::function<void(int)> opened;
 
  protected:
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    View::mouseReleaseEvent(event);
+    const QModelIndex at = this->indexAt(event->position().toPoint());
+    const bool after_opening = std::exchange(opened_by_mouse_, false);
+    if (event->button() == Qt::LeftButton && at.isValid() && !after_opening) picked(at.row());
+  }
+  void mouseDoubleClickEvent(QMouseEvent* event) override {
+    opened_by_mouse_ = true;
+    opened(this->indexAt(event->position().toPoint()).row());
+  }
+
+ private:
+  bool opened_by_mouse_ = false;
+};
+
+class GridTable : public PickingView<QTableView> {
+ protected:
   void keyPressEvent(QKeyEvent* event) override {
     const int before = currentIndex().row();
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-      if (before >= 0) opened(before);
+      opened(before);
       return;
     }
     if ((event->key() == Qt::Key_Home || event->key() == Qt::Key_End) && model()->rowCount() > 0) {
@@ -153,20 +171,6 @@ class GridTable : public QTableView {
     }
     if (currentIndex().row() != before) picked(currentIndex().row());
   }
-  void mouseReleaseEvent(QMouseEvent* event) override {
-    QTableView::mouseReleaseEvent(event);
-    const QModelIndex at = indexAt(event->position().toPoint());
-    const bool after_opening = std::exchange(opened_by_mouse_, false);
-    if (event->button() == Qt::LeftButton && at.isValid() && !after_opening) picked(at.row());
-  }
-  void mouseDoubleClickEvent(QMouseEvent* event) override {
-    const QModelIndex at = indexAt(event->position().toPoint());
-    opened_by_mouse_ = true;
-    if (at.isValid()) opened(at.row());
-  }
-
- private:
-  bool opened_by_mouse_ = false;
 };
 
 // The grid's widths are meant for a text of 8.25 points.
@@ -277,11 +281,7 @@ class EntryModel : public QAbstractListModel {
   int rows_ = 0;
 };
 
-class EntryList : public QListView {
- public:
-  std::function<void(int)> picked;
-  std::function<void(int)> opened;
-
+class EntryList : public PickingView<QListView> {
  protected:
   void keyPressEvent(QKeyEvent* event) override {
     const int before = currentIndex().row();
@@ -292,19 +292,6 @@ class EntryList : public QListView {
     QListView::keyPressEvent(event);
     if (currentIndex().row() != before) picked(currentIndex().row());
   }
-  void mouseReleaseEvent(QMouseEvent* event) override {
-    QListView::mouseReleaseEvent(event);
-    const QModelIndex at = indexAt(event->position().toPoint());
-    const bool after_opening = std::exchange(opened_by_mouse_, false);
-    if (event->button() == Qt::LeftButton && at.isValid() && !after_opening) picked(at.row());
-  }
-  void mouseDoubleClickEvent(QMouseEvent* event) override {
-    opened_by_mouse_ = true;
-    opened(indexAt(event->position().toPoint()).row());
-  }
-
- private:
-  bool opened_by_mouse_ = false;
 };
 
 }  // namespace
@@ -332,7 +319,7 @@ QTableView* MakeTable(Form& form, Grid& grid, const TableLook& look) {
     form.ActLater(grid, [&grid, row](Control&) { grid.UserSelectRow(row + 1); });
   };
   table->opened = [&form, &grid](int row) {
-    form.ActLater(grid, [&grid, row](Control&) { grid.UserOpenRow(row + 1); });
+    if (row >= 0) form.ActLater(grid, [&grid, row](Control&) { grid.UserOpenRow(row + 1); });
   };
   return table;
 }

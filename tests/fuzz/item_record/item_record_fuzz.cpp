@@ -8,8 +8,7 @@
 #include "curtain_wizard/wizard.h"
 #include "job/job_screen.h"
 #include "job/room_text.h"
-#include "support/silent_host.h"
-#include "support/shop_folder.h"
+#include "support/silent_shop.h"
 
 // An item is opened from a record that may be any text, taken through all steps and saved; what was saved
 // must come back the same.
@@ -20,23 +19,7 @@ void Require(bool holds) {
   if (!holds) std::abort();
 }
 
-class Shop {
- public:
-  Shop() {
-    folder_.AddSettings();
-    folder_.AddJob({});
-    job.OpenData();
-  }
-
- private:
-  ShopFolder folder_;
-
- public:
-  SilentHost host;
-  JobScreen job{host, folder_.path()};
-};
-
-void OpenItem(Shop& shop, const std::string& record, const std::function<void(MainCWizard&)>& step) {
+void OpenItem(SilentShop& shop, const std::string& record, const std::function<void(MainCWizard&)>& step) {
   MainCWizard wizard(shop.host, shop.job);
   wizard.RoomIndex.SetText("0");
   wizard.Txtinfo.SetText(record);
@@ -57,7 +40,7 @@ void WalkThrough(MainCWizard& wizard) {
   Require(wizard.is_closed());
 }
 
-void Check(Shop& shop, const std::string& record) {
+void Check(SilentShop& shop, const std::string& record) {
   std::string restored;
   OpenItem(shop, record, [&](MainCWizard& wizard) { restored = ItemRecord(wizard); });
   // Fields cut at "~" hold none, so that the record is whole again.
@@ -81,7 +64,7 @@ void Check(Shop& shop, const std::string& record) {
 }  // namespace tarvane
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static tarvane::Shop shop;
+  static tarvane::SilentShop shop;
   tarvane::Check(shop, std::string(reinterpret_cast<const char*>(data), size));
   return 0;
 }
