@@ -14,7 +14,7 @@
 #include "desktop/qt_host.h"
 #include "desktop/theme.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 namespace {
 
 // A time without its drawing would be none.
@@ -70,7 +70,7 @@ void Measure(QTableView& table) {
 }
 
 }  // namespace
-}  // namespace tarvane
+}  // namespace tarvane::desktop
 
 int main(int argc, char** argv) {
   if (argc != 2) {
@@ -79,15 +79,16 @@ int main(int argc, char** argv) {
   }
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
-  tarvane::ApplyTheme({});
-  tarvane::QtHost host;
-  tarvane::MainScreen screen(host, argv[1]);
-  host.OnShown([&screen](tarvane::Form& form) {
+  tarvane::desktop::ApplyTheme({});
+  tarvane::desktop::QtHost host;
+  tarvane::Shop shop(argv[1]);
+  tarvane::app::MainScreen screen(host, shop);
+  host.OnShown([&screen](tarvane::desktop::Form& form) {
     if (&form.screen() == &screen) {
       form.window()->setWindowState(Qt::WindowNoState);
       form.window()->resize(1366, 768);
       if (!QTest::qWaitForWindowExposed(form.window())) std::exit(1);
-      tarvane::Measure(*qobject_cast<QTableView*>(form.WidgetOf(screen.QuickFinderGrid)));
+      tarvane::desktop::Measure(*qobject_cast<QTableView*>(form.WidgetOf(screen.QuickFinderGrid)));
     }
     form.screen().Close();
   });

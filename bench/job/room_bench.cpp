@@ -3,11 +3,11 @@
 #include <cstring>
 
 #include "job/job_screen.h"
-#include "support/fake_host.h"
 #include "support/shop_folder.h"
+#include "support/silent_host.h"
 
 // A room of many items of real length: what opening its tab costs, and its parts.
-namespace tarvane {
+namespace tarvane::job {
 namespace {
 
 // About 1.5 KB a line, as the curtain wizard writes them: a state of 65 fields and the lines of an estimate.
@@ -32,8 +32,9 @@ void LoadRoom(benchmark::State& state) {
   const std::string text = RoomText(state.range(0));
   folder.AddSettings();
   folder.AddJob({{"1T(0)", text}});
-  FakeHost host;
-  JobScreen job(host, folder.path());
+  SilentHost host;
+  Shop shop(folder.path());
+  JobScreen job(host, shop);
   job.OpenData();
   for (auto _ : state) job.LoadRoom();
   state.counters["bytes per line"] = static_cast<double>(text.size()) / static_cast<double>(state.range(0));
@@ -71,14 +72,15 @@ void Totals(benchmark::State& state) {
   const ShopFolder folder;
   folder.AddSettings();
   folder.AddJob({{"1T(0)", RoomText(3)}});
-  FakeHost host;
-  JobScreen job(host, folder.path());
+  SilentHost host;
+  Shop shop(folder.path());
+  JobScreen job(host, shop);
   job.OpenData();
   for (auto _ : state) job.cal();
 }
 BENCHMARK(Totals)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
-}  // namespace tarvane
+}  // namespace tarvane::job
 
 BENCHMARK_MAIN();

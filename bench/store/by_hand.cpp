@@ -2,8 +2,6 @@
 
 #include <stdexcept>
 
-#include "store/connection.h"
-
 namespace tarvane {
 
 ByHand::ByHand(const std::filesystem::path& file) {
@@ -12,8 +10,7 @@ ByHand::ByHand(const std::filesystem::path& file) {
       sqlite3_open_v2(file.c_str(), &handle, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
   handle_.reset(handle);
   if (code != SQLITE_OK) throw std::runtime_error("open");
-  RegisterTextFunctions(handle);
-  sqlite3_exec(handle, "PRAGMA journal_mode=TRUNCATE; PRAGMA synchronous=FULL; PRAGMA cache_size=-1024;",
+  sqlite3_exec(handle, "PRAGMA journal_mode=TRUNCATE; PRAGMA synchronous=FULL; PRAGMA cache_size=-1536;",
                nullptr, nullptr, nullptr);
 }
 
@@ -45,8 +42,8 @@ std::vector<std::string> ByHand::FirstRow() {
 std::vector<std::vector<std::string>> ByHand::FirstRows(const std::string& prefix, const std::string& behind,
                                                         int most) {
   const Prepared select = Prepare(
-      "SELECT * FROM TblBrindel WHERE Name COLLATE SHOP_NOCASE >= ?1 AND Name COLLATE SHOP_NOCASE < ?2 "
-      "ORDER BY Name COLLATE SHOP_NOCASE, RefNo LIMIT ?3");
+      "SELECT * FROM TblBrindel WHERE Name COLLATE NOCASE >= ?1 AND Name COLLATE NOCASE < ?2 "
+      "ORDER BY Name COLLATE NOCASE, RefNo LIMIT ?3");
   sqlite3_bind_text(select.get(), 1, prefix.data(), static_cast<int>(prefix.size()), SQLITE_STATIC);
   sqlite3_bind_text(select.get(), 2, behind.data(), static_cast<int>(behind.size()), SQLITE_STATIC);
   sqlite3_bind_int(select.get(), 3, most);
@@ -57,8 +54,8 @@ std::vector<std::vector<std::string>> ByHand::FirstRows(const std::string& prefi
 
 std::vector<std::int64_t> ByHand::Keys(const std::string& prefix, const std::string& behind) {
   const Prepared select = Prepare(
-      "SELECT RefNo FROM TblBrindel WHERE Name COLLATE SHOP_NOCASE >= ?1 AND Name COLLATE SHOP_NOCASE < ?2 "
-      "ORDER BY Name COLLATE SHOP_NOCASE, RefNo");
+      "SELECT RefNo FROM TblBrindel WHERE Name COLLATE NOCASE >= ?1 AND Name COLLATE NOCASE < ?2 "
+      "ORDER BY Name COLLATE NOCASE, RefNo");
   sqlite3_bind_text(select.get(), 1, prefix.data(), static_cast<int>(prefix.size()), SQLITE_STATIC);
   sqlite3_bind_text(select.get(), 2, behind.data(), static_cast<int>(behind.size()), SQLITE_STATIC);
   std::vector<std::int64_t> keys;

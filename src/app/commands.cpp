@@ -2,8 +2,12 @@
 
 #include "app/addresses.h"
 #include "app/main_screen.h"
+#include "app/show.h"
+#include "app/splash.h"
+#include "tools/list_admin.h"
+#include "tools/options.h"
 
-namespace tarvane {
+namespace tarvane::app {
 
 namespace {
 
@@ -11,8 +15,7 @@ constexpr auto kMenu = Button::Kind::kMenu;
 constexpr auto kEntry = Button::Kind::kMenuEntry;
 constexpr auto kTool = Button::Kind::kToolButton;
 constexpr auto kButton = Button::Kind::kButton;
-constexpr auto kNotBuilt = nullptr;
-constexpr auto kNoAction = nullptr;
+constexpr Action kNoAction = Action::Run{nullptr};
 
 void DoNothing(MainScreen&) {}
 
@@ -28,6 +31,11 @@ void Browse(MainScreen& main) {
 
 void ClearData(MainScreen& main) { main.ClearCurtainData(); }
 void SetUpPrinter(MainScreen& main) { main.host().SetUpPrinter(); }
+
+template <typename Shown>
+void Show(MainScreen& main) {
+  ShowScreen<Shown>(main);
+}
 
 using Main = MainScreen;
 
@@ -66,12 +74,12 @@ const std::vector<Command>& Commands() {
       {kEntry, "MunData", "munInvoicing",       -1, "&Invoicing", "", kNotBuilt},
       {kEntry, "MunData", "MunCashBook",        -1, "&Cash Book", "", kNotBuilt},
       {kEntry, "MunData", "munCCD",             -1, "Clear Curtain Da&ta", "", ClearData},
-      {kEntry, "MunData", "OptionsList",        -1, "Change Options &Lists", "", Run<&Main::ShowListAdmin>},
+      {kEntry, "MunData", "OptionsList",        -1, "Change Options &Lists", "", Show<tools::FrmListAdmin>},
       {kEntry, "MunData", "MunNotes",           -1, "&Notes and History", "", DoNothing},
       {kEntry, "MunData", "MunAddInfo",         -1, "&Additional Information", "", DoNothing},
       {kEntry, "MunData", "munQuickClear",      -1, "&Quick Clear Orders", "", kNotBuilt},
       {kMenu,  "MunData", "Mun",                -1, "&Edit Tarvane Preferences", "", kNoAction},
-      {kEntry, "Mun",     "MunCompanyandVat",   -1, "&Edit Company-Vat details etc", "", Run<&Main::ShowOptions>},
+      {kEntry, "Mun",     "MunCompanyandVat",   -1, "&Edit Company-Vat details etc", "", Show<tools::frmOptions>},
 
       {kMenu,  "",        "MnuPicView",         -1, "&Picture View", "", kNoAction},
       {kEntry, "MnuPicView", "MunOpenPicView",  -1, "&Open Picture View", "", kNotBuilt},
@@ -91,7 +99,7 @@ const std::vector<Command>& Commands() {
       {kEntry, "munHelp", "munwwwbrindel",      -1, kMakerSite, "", Browse<kMakerSite>},
       {kEntry, "munHelp", "munWwwbrindelCoUk",  -1, kMakerSecondSite, "", Browse<kMakerSecondSite>},
       {kEntry, "munHelp", "MunUpgrades",        -1, "Check for Software &Updates", "", Run<&Main::ShowUpdates>},
-      {kEntry, "munHelp", "MunAbout",           -1, "&About", "", Run<&Main::ShowSplash>},
+      {kEntry, "munHelp", "MunAbout",           -1, "&About", "", Show<frmSplash>},
 
       {kTool,  "", "New Record",      -1, "", "Add New Record", Run<&Main::NewRecord>},
       {kTool,  "", "Save Records",    -1, "", "Save Records", Run<&Main::SaveRecord>},
@@ -136,4 +144,4 @@ const std::vector<Command>& Commands() {
 }
 // clang-format on
 
-}  // namespace tarvane
+}  // namespace tarvane::app

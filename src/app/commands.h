@@ -5,9 +5,19 @@
 
 #include "screen/control.h"
 
-namespace tarvane {
+namespace tarvane::app {
 
 class MainScreen;
+
+// What a command does. A menu, and a command that waits for its screen (kNotBuilt), do nothing.
+struct Action {
+  using Run = void (*)(MainScreen& main);
+  // Written in the table as what it is.
+  constexpr Action(Run run_in) : run(run_in) {}  // NOLINT(google-explicit-constructor)
+  constexpr Action(NotBuilt) : to_come(true) {}  // NOLINT(google-explicit-constructor)
+  Run run = nullptr;
+  bool to_come = false;
+};
 
 // A menu, a menu entry, a toolbar button or a button of the main screen.
 struct Command {
@@ -17,11 +27,10 @@ struct Command {
   int index;                 // of a control array; -1 stands alone
   std::string_view caption;  // "" on the toolbar
   std::string_view tip;
-  // What it does. nullptr for a menu, and for what waits for its screen: that stays disabled.
-  void (*action)(MainScreen& main);
+  Action action;
 };
 
 // All of them, in the order in which they are shown.
 const std::vector<Command>& Commands();
 
-}  // namespace tarvane
+}  // namespace tarvane::app

@@ -1,44 +1,49 @@
 // How the item wizards are opened, and what follows them.
 #include "app/main_screen.h"
+#include "app/show.h"
 #include "curtain_wizard/wizard.h"
+#include "text/trim.h"
 
-namespace tarvane {
+namespace tarvane::app {
 
 void MainScreen::AddCurtain() {
   NeedRecord();
-  MainCWizard wizard(host(), *this);
+  auto wizard = MakeScreen<curtain_wizard::MainCWizard>(*this);
   wizard.RoomIndex.SetText(NumberText(TxtRoomNum.Number() - 1));
   wizard.CmdFinishTwo.SetVisible(true);
   ShowModal(wizard);
   RefreshAfterItem();
+  // What was compiled anew goes to the disk with the item.
+  if (wizard.item_saved()) SaveRecord();
 }
 
 void MainScreen::EditItem() {
   const HeldGrid& grid = RoomItemGrid[RoomIndex()];
-  const std::string_view dialogbox = TrimSpaces(grid.Text(grid.selected_row(), kDialogboxColumn));
+  const std::string_view dialogbox = TrimSpaces(grid.Text(grid.selected_row(), job::kDialogboxColumn));
   // Items of any other editor have no way in.
-  if (dialogbox == "CurtainWizard" || dialogbox == "MainCWizard") EditCurtain(grid);
+  const bool curtain = dialogbox == "CurtainWizard" || dialogbox == "MainCWizard";
+  const bool saved = curtain && EditCurtain(grid);
   RefreshAfterItem();
+  if (saved) SaveRecord();
 }
 
-void MainScreen::EditCurtain(const HeldGrid& grid) {
+bool MainScreen::EditCurtain(const HeldGrid& grid) {
   const std::int64_t row = grid.selected_row();
-  MainCWizard wizard(host(), *this);
+  auto wizard = MakeScreen<curtain_wizard::MainCWizard>(*this);
   wizard.RoomIndex.SetText(NumberText(TxtRoomNum.Number() - 1));
-  wizard.Txtinfo.SetText(TrimSpaces(grid.Text(row, kInfomationColumn)));
+  wizard.Txtinfo.SetText(TrimSpaces(grid.Text(row, job::kInfomationColumn)));
   wizard.TxtRow.SetText(std::to_string(row));
   wizard.TxtViewOnly.SetText("1");
   ShowModal(wizard);
+  return wizard.item_saved();
 }
 
 void MainScreen::RefreshAfterItem() {
-  ClearRoom(SelectedRoom());
-  LoadRoom();
-  cal();
+  RunEach({[this] { ClearRoom(SelectedRoom()); }, [this] { LoadRoom(); }, [this] { cal(); }});
 }
 
 void MainScreen::ShowQuickWizard() {
-  MainCWizard wizard(host(), *this);
+  auto wizard = MakeScreen<curtain_wizard::MainCWizard>(*this);
   wizard.CmdUpdateAndClose.SetVisible(false);
   wizard.CmdFinishTwo.SetVisible(false);
   wizard.TxtViewOnly.SetText("2");
@@ -49,4 +54,4 @@ void MainScreen::NeedRecord() const {
   if (!Data1.HasRow()) throw Fault("No record is open. Add a new record first.");
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::app

@@ -6,15 +6,15 @@
 
 #include "app/addresses.h"
 #include "app/commands.h"
+#include "app/show.h"
 #include "app/splash.h"
 #include "app/version.h"
-#include "job/option_lists.h"
+#include "shop/option_lists.h"
 #include "store/data_files.h"
+#include "text/trim.h"
 #include "tools/enter_sales_person.h"
-#include "tools/list_admin.h"
-#include "tools/options.h"
 
-namespace tarvane {
+namespace tarvane::app {
 
 namespace {
 
@@ -24,7 +24,15 @@ constexpr std::size_t kTaxValue = 11;
 
 }  // namespace
 
-MainScreen::MainScreen(Host& host, std::filesystem::path folder) : JobScreen(host, std::move(folder)) {
+MainScreen::MainScreen(Host& host, Shop& shop)
+    : job::JobScreen(host, shop),
+      JobFinder(&Frame2, Data1, kJobTable,
+                {{"RefNo", ""}, {"Order Number", "Ext2"}, {"Name", ""}, {"Telephone", ""}, {"PostCode", ""}},
+                {.search_name = "CmdSearch",
+                 .reset_name = "CmdReset",
+                 .reset_caption = "Reset  Records",
+                 .reset_category = "RefNo",
+                 .must_choose = true}) {
   MakeCommands();
   SetFinderRules();
   tbToolBar.SetVisible(false);
@@ -34,15 +42,15 @@ MainScreen::MainScreen(Host& host, std::filesystem::path folder) : JobScreen(hos
 
 void MainScreen::MakeCommands() {
   for (const Command& command : Commands()) {
+    const Home home = command.kind == Button::Kind::kToolButton ? Home(&tbToolBar) : Home(this);
+    const std::string name(command.name);
     Button& button =
-        commands_.emplace_back(this, std::string(command.name), command.caption, command.index, command.kind);
+        command.action.to_come
+            ? commands_.emplace_back(home, name, command.caption, kNotBuilt, command.index, command.kind)
+            : commands_.emplace_back(home, name, command.caption, command.index, command.kind);
     button.SetTip(std::string(command.tip));
-    if (command.kind == Button::Kind::kToolButton) button.SetPanel(&tbToolBar);
-    if (command.action != nullptr) {
-      button.OnClicked([this, action = command.action] { action(*this); });
-    } else if (command.kind != Button::Kind::kMenu) {
-      button.SetEnabled(false);
-    }
+    if (command.action.run == nullptr) continue;
+    button.OnClicked([this, run = command.action.run] { run(*this); });
   }
 }
 
@@ -54,30 +62,29 @@ Button& MainScreen::CommandButton(std::string_view name, int index) {
 }
 
 void MainScreen::SetFinderRules() {
-  // The searches are still to come.
-  for (Button* button : {&CmdSearch, &CmdFindSalesPersonsJobs, &CMDLOAD}) button->SetEnabled(false);
   QuickFinderGrid.AddAlias("MSFlexGrid4");
   Data1.Attach(QuickFinderGrid, {}, "ID");
   QuickFinderGrid.OnRowOpened([this] { OpenRecord(); });
-  for (Control* control : std::initializer_list<Control*>{
-           &CboFabSearch, &FabSText, &CmdSearch, &CmdReset, &CboSalesPersonSearch, &CmdFindSalesPersonsJobs,
-           &CMDLOAD, &txtLastRecord, &QuickFinderGrid, &Label12}) {
-    control->SetPanel(&Frame2);
-  }
   txtLastRecord.SetReadOnly(true);
-  CmdReset.OnClicked([this] { Reset(); });
+  JobFinder.ReadFrom([this]() -> Database& { return shop().database(); });
+  JobFinder.BeforeSearch([this] { SaveRecord(); });
+  JobFinder.MoveBy([this](const std::function<void()>& moves) { MoveUnseen(moves); });
+  JobFinder.OnFound([this](std::int64_t count) {
+    Label8[0].SetCaption(std::to_string(count) + " matche(s) found. Refresh Database to search again.");
+    Repositioned();
+  });
+  JobFinder.OnReset([this] { JobsAreBack(); });
   for (HeldGrid& grid : RoomItemGrid) {
     grid.OnRowOpened([this] { EditItem(); });
   }
 }
 
 void MainScreen::Load() {
-  ShowSplash();
+  ShowScreen<frmSplash>(*this);
   SSTab2.Select(0);
-  CboFabSearch.SetEntries({"RefNo", "Order Number", "Name", "Telephone", "PostCode"});
   SetTitle(fmt::format("Tarvane Max - The shop curtain estimating software - Version {}.{} (Build #{})",
                        kVersionMajor, kVersionMinor, kVersionRevision));
-  loadINI();
+  Guard([this] { loadINI(); });
   try {
     // The first activation works out the totals.
     MoveUnseen([this] { OpenData(); });
@@ -85,33 +92,37 @@ void MainScreen::Load() {
     // The start goes on without jobs; the worker sees why there are none.
     Label8[0].SetCaption(fault.what());
   }
+  for (const std::string& notice : shop().TakeNotices()) Message(notice, kProgramTitle, Icon::kWarning);
   SSTab1.Select(0);
-  FillSalesPersons();
-  ReadSettings();
+  Guard([this] { FillSalesPersons(); });
+  Guard([this] { ReadSettings(); });
   IgnoreFaults([this] {
     MoveUnseen([this] {
       Data1.rows().MoveLast();
       Data1.rows().MoveFirst();
     });
   });
-  ShowRecordPosition();
+  Records.Show();
 }
 
 void MainScreen::loadINI() {
-  const std::string text = ReadFile(FindFile(folder(), data_file::kCheckListCaptions)).value_or("");
-  for (std::size_t i = 0; i < kCheckListCount; ++i) {
-    CheckList[i].SetCaption(ReadProfileValue(text, "CheckList", "CheckList" + std::to_string(i + 1)));
+  const auto text = shop().ReadText(data_file::kCheckListCaptions);
+  // A shop without captions of its own starts with the entries of its list, as far as the boxes go.
+  const auto entries = text ? std::vector<std::string>() : shop().ReadList(data_file::kCheckList);
+  for (std::size_t i = 0; i < job::kCheckListCount; ++i) {
+    CheckList[i].SetCaption(text ? ReadProfileValue(*text, "CheckList", "CheckList" + std::to_string(i + 1))
+                                 : (i < entries.size() ? entries[i] : ""));
   }
 }
 
 void MainScreen::FillSalesPersons() {
-  const auto names = LoadListFile(FindFile(folder(), data_file::kSalesPersonsList));
+  const auto names = shop().ReadList(data_file::kSalesPersonsList);
   SalesPerson.SetEntries(names);
   CboSalesPersonSearch.SetEntries(names);
 }
 
 void MainScreen::ReadSettings() {
-  const auto text = ReadFile(FindFile(folder(), data_file::kSettings));
+  const auto text = shop().ReadText(data_file::kSettings);
   if (!text) return;
   const auto values = ReadSequentialValues(*text, kSettingsValues);
   if (values.size() > kTaxValue) cboVAT.SetText(values[kTaxValue]);
@@ -121,8 +132,6 @@ void MainScreen::SwitchMenus(bool job_open) {
   for (const std::string_view name : {"munPrint", "MunQP", "munPay", "MuuNextRec", "MnuPrevRec", "munFind"}) {
     CommandButton(name).SetEnabled(job_open == (name != "munFind"));
   }
-  // What waits for its screen stays off.
-  for (const std::string_view name : {"munPrint", "munPay"}) CommandButton(name).SetEnabled(false);
 }
 
 void MainScreen::tbToolBarOpen() { SwitchMenus(true); }
@@ -136,6 +145,8 @@ void MainScreen::OpenRecord() {
   CommandButton("CmdSize").SetVisible(true);
   Label12.SetVisible(false);
   tbToolBarOpen();
+  // From here on what the look has worked out is the job's own.
+  Data1.WriteFields();
 }
 
 void MainScreen::CloseRecord() {
@@ -148,16 +159,11 @@ void MainScreen::CloseRecord() {
   tbToolBarclose();
   CommandButton("CmdSize").SetVisible(false);
   Label12.SetVisible(true);
-  Reset();
+  JobFinder.Reset();
 }
 
-void MainScreen::Reset() {
-  if (Data1.HasRow()) SaveRecord();
-  CboFabSearch.SetText("RefNo");
-  FabSText.SetText("");
-  CboFabSearch.SetEnabled(true);
+void MainScreen::JobsAreBack() {
   MoveUnseen([this] {
-    OpenJobs();
     IgnoreFaults([this] {
       Data1.rows().MoveFirst();
       Data1.rows().MoveLast();
@@ -166,7 +172,7 @@ void MainScreen::Reset() {
   });
   Repositioned();
   Label8[0].SetCaption("Database refreshed.");
-  SetFocus(FabSText);
+  SetFocus(JobFinder.FabSText);
 }
 
 void MainScreen::AddNewJob() {
@@ -178,29 +184,28 @@ void MainScreen::NewRecord() {
   RowSet& jobs = Data1.rows();
   // What was missing at the start may be there by now; else the worker is told what it is.
   if (!jobs.IsOpen()) OpenData();
-  jobs.MoveLast();
-  jobs.AddNew();
-  DateCreated.SetText(ShortDate(host().Now()));
-  DiscountPercent.SetText(TxtP1.empty() ? kDefaultDiscountPercent : TxtP1.text());
-  DepositPercent.SetText(TxtP2.empty() ? kDefaultDepositPercent : TxtP2.text());
-  TxtLastOrderNo.SetText(NumberText(TxtLastOrderNo.Number() + 1));
-  OrderReference.SetText(TxtLastOrderNo.text());
-  FrmEnterSalesPerson enter_sales_person(host(), *this);
-  ShowModal(enter_sales_person);
-  if (Data2.HasRow()) Data2.rows().Update();
+  MoveUnseen([&jobs] {
+    jobs.MoveLast();
+    jobs.AddNew();
+  });
+  Repositioned();
+  DateCreated.SetText(ShortDate(host().Now().day));
+  DiscountPercent.SetText(TxtP1.empty() ? job::kDefaultDiscountPercent : TxtP1.text());
+  DepositPercent.SetText(TxtP2.empty() ? job::kDefaultDepositPercent : TxtP2.text());
+  try {
+    OrderReference.SetText(RaiseOrderNumber());
+  } catch (const Fault&) {
+    // Without a number there is no new job.
+    jobs.CancelUpdate();
+    throw;
+  }
+  ShowScreen<tools::FrmEnterSalesPerson>(*this);
   SaveRecord();
   SetFocus(Name);
   jobs.MoveLast();
 }
 
-void MainScreen::SaveRecord() {
-  const bool adding = Data1.rows().IsOpen() && Data1.rows().IsAdding();
-  Data1.rows().Update();
-  if (!adding) return;
-  // The database has given the job its number and its place.
-  Data1.LoadFields();
-  Repositioned();
-}
+void MainScreen::SaveRecord() { Data1.Save(); }
 
 void MainScreen::NextRecord() {
   // Without jobs nothing happens. A job that can't be saved on the way is told.
@@ -227,21 +232,6 @@ void MainScreen::Exit() {
 bool MainScreen::MayClose() {
   Exit();
   return true;
-}
-
-void MainScreen::ShowSplash() {
-  frmSplash splash(host());
-  ShowModal(splash);
-}
-
-void MainScreen::ShowListAdmin() {
-  FrmListAdmin list_admin(host(), folder());
-  ShowModal(list_admin);
-}
-
-void MainScreen::ShowOptions() {
-  frmOptions options(host(), *this);
-  ShowModal(options);
 }
 
 void MainScreen::ShowUpdates() {
@@ -271,4 +261,4 @@ void MainScreen::VisitWebSite() {
   host().Launch("https://" + WebSite.text());
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::app

@@ -1,37 +1,35 @@
 #pragma once
 
 #include <deque>
-#include <filesystem>
 #include <string_view>
 
 #include "job/job_screen.h"
+#include "screen/finder.h"
 
-namespace tarvane {
+namespace tarvane::app {
 
 // The program's frame: the job screen with its commands and the finder.
-//   MainScreen screen(host, folder);
+//   Shop shop(folder);
+//   MainScreen screen(host, shop);
 //   screen.RunAsMain();
 // It ends by Host::EndProcess; what hasn't been saved is lost.
 //
 // In finder mode the finder covers the job and the toolbar is hidden; in job mode the finder is folded away.
-class MainScreen : public JobScreen {
+class MainScreen : public job::JobScreen {
  public:
-  MainScreen(Host& host, std::filesystem::path folder);
+  MainScreen(Host& host, Shop& shop);
 
   bool in_job_mode() const { return !QuickFinderGrid.visible(); }
 
   // ---- Finder.
   Panel Frame2{this, "Frame2"};
-  DropDownList CboFabSearch{this, "CboFabSearch", "<Category to Search>"};
-  TextField FabSText{this, "FabSText"};
-  Button CmdSearch{this, "CmdSearch", "Search"};
-  Button CmdReset{this, "CmdReset", "Reset  Records"};
-  DropDownList CboSalesPersonSearch{this, "CboSalesPersonSearch"};
-  Button CmdFindSalesPersonsJobs{this, "CmdFindSalesPersonsJobs", "Find Sales Persons Jobs"};
-  Button CMDLOAD{this, "CMDLOAD", "&Load Quick Finder"};
-  TextField txtLastRecord{this, "txtLastRecord"};      // RefNo of the job closed last
-  TableGrid QuickFinderGrid{this, "QuickFinderGrid"};  // alias MSFlexGrid4
-  Label Label12{this, "Label12", -1, "Double click on a job to open it."};
+  Finder JobFinder;
+  DropDownList CboSalesPersonSearch{&Frame2, "CboSalesPersonSearch", kNotBuilt};
+  Button CmdFindSalesPersonsJobs{&Frame2, "CmdFindSalesPersonsJobs", "Find Sales Persons Jobs", kNotBuilt};
+  Button CMDLOAD{&Frame2, "CMDLOAD", "&Load Quick Finder", kNotBuilt};
+  TextField txtLastRecord{&Frame2, "txtLastRecord"};      // RefNo of the job closed last
+  TableGrid QuickFinderGrid{&Frame2, "QuickFinderGrid"};  // alias MSFlexGrid4
+  Label Label12{&Frame2, "Label12", -1, "Double click on a job to open it."};
 
   Panel tbToolBar{this, "tbToolBar"};
 
@@ -46,11 +44,7 @@ class MainScreen : public JobScreen {
   void PreviousRecord();
   void OpenRecord();   // the finder is folded away
   void CloseRecord();  // and comes back with all jobs
-  void Reset();
   void Exit();
-  void ShowSplash();
-  void ShowListAdmin();
-  void ShowOptions();
   void ShowUpdates();
   void SendMail();
   void VisitWebSite();
@@ -61,6 +55,7 @@ class MainScreen : public JobScreen {
 
  protected:
   void Load() override;
+  bool JobIsOpen() const override { return in_job_mode(); }
   bool MayClose() override;
 
  private:
@@ -72,10 +67,11 @@ class MainScreen : public JobScreen {
   void loadINI();
   void FillSalesPersons();
   void ReadSettings();
-  void EditCurtain(const HeldGrid& grid);
+  bool EditCurtain(const HeldGrid& grid);  // true where the item was saved
   void NeedRecord() const;
+  void JobsAreBack();
 
   std::deque<Button> commands_;
 };
 
-}  // namespace tarvane
+}  // namespace tarvane::app

@@ -4,13 +4,13 @@
 
 #include "app/version.h"
 
-namespace tarvane {
+namespace tarvane::app {
 
-frmSplash::frmSplash(Host& host) : Screen(host, "frmSplash") {
+frmSplash::frmSplash(Host& host) : Screen(host, std::string(kName)) {
   SetTitle(kProgramTitle);
   lblProductName.SetCaption(kProgramTitle);
   lblVersion.SetCaption(fmt::format("{}.{}.{}", kVersionMajor, kVersionMinor, kVersionRevision));
   Command1.OnClicked([this] { Close(); });
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::app

@@ -2,11 +2,13 @@
 
 #include "screen/screen.h"
 
-namespace tarvane {
+namespace tarvane::app {
 
 // Name and version, at the start and from the help menu.
 class frmSplash : public Screen {
  public:
+  static constexpr std::string_view kName = "frmSplash";
+
   explicit frmSplash(Host& host);
 
   Label lblProductName{this, "lblProductName"};
@@ -14,4 +16,4 @@ class frmSplash : public Screen {
   Button Command1{this, "Command1", "&OK"};
 };
 
-}  // namespace tarvane
+}  // namespace tarvane::app

@@ -3,7 +3,7 @@
 #include "curtain_wizard/fabric_requirement.h"
 #include "curtain_wizard/wizard.h"
 
-namespace tarvane {
+namespace tarvane::curtain_wizard {
 namespace {
 
 using Wizard = MainCWizard;
@@ -25,7 +25,7 @@ constexpr const CostLine& kLiningLine = kCostLines[2];
 constexpr const CostLine& kInterliningLine = kCostLines[3];
 
 void Reprice(Wizard& wizard, const CostLine& line) {
-  PutNumber(wizard.*line.cost, (wizard.*line.price).Number() * (wizard.*line.amount).Number(), Mask::k0_00);
+  (wizard.*line.cost).SetNumber((wizard.*line.price).Number() * (wizard.*line.amount).Number(), Mask::k0_00);
 }
 
 void EnableLine(Wizard& wizard, const CostLine& line, bool on) {
@@ -70,22 +70,22 @@ void MainCWizard::HookCosting() {
   NoTieBacks.OnClicked([this] { ApplyTieBacks(); });
   TieBacksNeeded.OnClicked([this] { ApplyTieBacks(); });
   TxtTieBacksUnitPrice.OnChanged(
-      [this] { PutNumber(TieBackTotal, TxtTieBacksUnitPrice.Number() * TxtNoOfTieBacks.Number()); });
+      [this] { TieBackTotal.SetNumber(TxtTieBacksUnitPrice.Number() * TxtNoOfTieBacks.Number()); });
   TxtTieBacksUnitPrice.OnLeft([this] { TieBackTotal.SetText(Format2(TieBackTotal.text())); });
 }
 
 // Tape runs across the heading: it follows the widths of fabric, not the track.
 void MainCWizard::ComputeTape() {
-  PutNumber(TxtTape, NumberOfDrops.Number() * FabricWidthIns.Number() / kMetreInches, Mask::k0_0);
+  TxtTape.SetNumber(NumberOfDrops.Number() * FabricWidthIns.Number() / kMetreInches, Mask::k0_0);
 }
 
-// Lining is cut to the length and the hem, whatever repeat the fabric has.
+// The repeat of the fabric is no matter for its lining.
 void MainCWizard::ComputeLining() {
   if (LiningByWidths.on()) {
     const double inches = NumberOfDrops.Number() * (FinishedLengthIns.Number() + HemAllowanceIns.Number());
     const double metres = ThroughText(inches) / kMetreInches;
-    PutNumber(LiningAmount, metres, Mask::k0_0);
-    PutNumber(InterliningAmount, metres, Mask::k0_0);
+    LiningAmount.SetNumber(metres, Mask::k0_0);
+    InterliningAmount.SetNumber(metres, Mask::k0_0);
     LiningByWidths.SetCaption("Metres");
   } else {
     if (NumberOfDrops.empty()) NumberOfDrops.SetText("0");
@@ -105,7 +105,7 @@ void MainCWizard::RemoveFabricVat() {
   }
   IgnoreFaults([this] {
     const double divisor = ParseLeading(VatDivisor(cboVAT.text()));
-    PutNumber(FabricPrice, ParseStrict(FabricPrice.text()) / divisor * 100, Mask::k0_00);
+    FabricPrice.SetNumber(ParseStrict(FabricPrice.text()) / divisor * 100, Mask::k0_00);
   });
 }
 
@@ -122,4 +122,4 @@ void MainCWizard::ApplyTieBacks() {
   }
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::curtain_wizard

@@ -5,7 +5,7 @@
 
 #include "curtain_wizard/wizard.h"
 
-namespace tarvane {
+namespace tarvane::curtain_wizard {
 namespace {
 
 using Wizard = MainCWizard;
@@ -24,6 +24,8 @@ constexpr MeasurePair kMeasurePairs[] = {
     {&Wizard::PatternRepeatIns, &Wizard::PatternRepeatCm, Mask::k0_0},
     {&Wizard::HemAllowanceIns, &Wizard::HemAllowanceCm, Mask::k0_0},
 };
+
+constexpr std::string_view kMillimetres = "mm";
 
 struct AutoMeasure {
   OptionButton Wizard::*option;
@@ -74,10 +76,8 @@ void MainCWizard::HookMeasurements() {
     const auto to_inches = [this, &pair] {
       MirrorToInches(this->*pair.centimetres, this->*pair.inches, pair.inch_mask);
     };
-    (this->*pair.inches).OnEnterKey(to_cm);
-    (this->*pair.inches).OnLeft(to_cm);
-    (this->*pair.centimetres).OnEnterKey(to_inches);
-    (this->*pair.centimetres).OnLeft(to_inches);
+    ConvertWhereChanged(this->*pair.inches, to_cm);
+    ConvertWhereChanged(this->*pair.centimetres, to_inches);
   }
 
   InputInInches.OnClicked([this] { ApplyInputUnit(); });
@@ -97,12 +97,26 @@ void MainCWizard::HookMeasurements() {
   });
 }
 
+// On Enter in any case, on leaving only what was changed in the box: millimetres that are merely passed
+// through aren't taken for centimetres, nor is a measure rounded by it.
+void MainCWizard::ConvertWhereChanged(TextField& box, const Rule& convert) {
+  box.OnTyped([this, &box] { typed_box_ = &box; });
+  box.OnEnterKey([this, convert] {
+    convert();
+    typed_box_ = nullptr;
+  });
+  box.OnLeft([this, &box, convert] {
+    if (typed_box_ == &box) convert();
+    typed_box_ = nullptr;
+  });
+}
+
 void MainCWizard::Calculate() {
   if (TxtMTrack.Number() <= 0) TxtMTrack.SetText("1");
   const double track = MeasuredTrack();
   const double fabric = FabricWidthIns.Number();
   const double fullness = TxtMTrack.text() == "1" ? Fullness.Number() : 1;
-  PutNumber(NumberOfDrops, track * fullness / fabric);
+  NumberOfDrops.SetNumber(track * fullness / fabric);
   NumberOfDrops.SetText(RoundUpCount(NumberOfDrops.text()));
 
   const bool patterned = PatternRepeatIns.Number() != 0;
@@ -111,7 +125,7 @@ void MainCWizard::Calculate() {
   } else {
     CalculatePlain();
   }
-  PutNumber(MetresRequired, TotalInches.Number() / kMetreInches, Mask::k0_00);
+  MetresRequired.SetNumber(TotalInches.Number() / kMetreInches, Mask::k0_00);
   if (!patterned) PatternsPerDrop.SetText("Plain Fabric Used");
 }
 
@@ -129,20 +143,20 @@ double MainCWizard::MeasuredTrack() {
 }
 
 void MainCWizard::CalculatePatterned() {
-  PutNumber(PatternsPerDrop,
-            (FinishedLengthIns.Number() + HemAllowanceIns.Number()) / PatternRepeatIns.Number());
+  PatternsPerDrop.SetNumber((FinishedLengthIns.Number() + HemAllowanceIns.Number()) /
+                            PatternRepeatIns.Number());
   PatternsPerDrop.SetText(RoundUpCount(PatternsPerDrop.text()));
-  PutNumber(CutLengthIns, PatternRepeatIns.Number() * PatternsPerDrop.Number());
+  CutLengthIns.SetNumber(PatternRepeatIns.Number() * PatternsPerDrop.Number());
   MirrorToCm(CutLengthIns, CutLengthCm);
-  if (UnitMm.on()) PutNumber(CutLengthCm, CutLengthCm.Number() * 10);
-  PutNumber(TotalInches, NumberOfDrops.Number() * CutLengthIns.Number());
+  if (UnitMm.on()) CutLengthCm.SetNumber(CutLengthCm.Number() * 10);
+  TotalInches.SetNumber(NumberOfDrops.Number() * CutLengthIns.Number());
 }
 
 // Unlike the cut of patterned fabric this one is shown in centimetres whatever the unit.
 void MainCWizard::CalculatePlain() {
-  PutNumber(PatternsPerDrop, FinishedLengthIns.Number() + HemAllowanceIns.Number());
-  PutNumber(TotalInches, NumberOfDrops.Number() * PatternsPerDrop.Number());
-  PutNumber(CutLengthIns, FinishedLengthIns.Number() + HemAllowanceIns.Number());
+  PatternsPerDrop.SetNumber(FinishedLengthIns.Number() + HemAllowanceIns.Number());
+  TotalInches.SetNumber(NumberOfDrops.Number() * PatternsPerDrop.Number());
+  CutLengthIns.SetNumber(FinishedLengthIns.Number() + HemAllowanceIns.Number());
   MirrorToCm(CutLengthIns, CutLengthCm);
 }
 
@@ -167,26 +181,29 @@ bool MainCWizard::AnyMeasureEmpty() const {
   });
 }
 
+// A press that does nothing leaves the unit chosen that the boxes show.
+void MainCWizard::KeepUnit() { (UnitLabel[0].caption() == kMillimetres ? UnitMm : UnitCms).Set(true); }
+
 void MainCWizard::ShowCentimetres() {
-  if (AnyMeasureEmpty()) return;
+  if (AnyMeasureEmpty()) return KeepUnit();
   SetUnitLabels("Cms");
   for (const MeasurePair& pair : kMeasurePairs) MirrorToCm(this->*pair.inches, this->*pair.centimetres);
   Calculate();
 }
 
 void MainCWizard::ShowMillimetres() {
-  if (AnyMeasureEmpty()) return;
-  SetUnitLabels("mm");
+  if (AnyMeasureEmpty()) return KeepUnit();
+  SetUnitLabels(kMillimetres);
   for (const MeasurePair& pair : kMeasurePairs) {
     TextField& box = this->*pair.centimetres;
     MirrorToCm(this->*pair.inches, box);
-    PutNumber(box, box.Number() * 10);
+    box.SetNumber(box.Number() * 10);
   }
-  PutNumber(CutLengthCm, CutLengthCm.Number() * 10);
+  CutLengthCm.SetNumber(CutLengthCm.Number() * 10);
 }
 
 void MainCWizard::SetUnitLabels(std::string_view unit) {
   for (Label& label : UnitLabel) label.SetCaption(unit);
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::curtain_wizard

@@ -6,7 +6,7 @@
 #include "screen/field.h"
 
 // The numbers of the curtain wizard: texts in, texts out.
-namespace tarvane {
+namespace tarvane::curtain_wizard {
 
 // A metre, in inches, throughout the wizard. The trade's figure, not the exact one.
 inline constexpr double kMetreInches = 39.5;
@@ -27,8 +27,4 @@ std::string CmToInches(std::string_view centimetres);
 // The double that is left of `value` after it was held as text.
 double ThroughText(double value);
 
-// Writes `value` into `field`. A failed calculation (division by 0, too large) leaves the field as it was.
-void PutNumber(TextField& field, double value);
-void PutNumber(TextField& field, double value, Mask mask);
-
-}  // namespace tarvane
+}  // namespace tarvane::curtain_wizard

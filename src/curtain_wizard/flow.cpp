@@ -1,14 +1,12 @@
 #include <algorithm>
 #include <array>
 
-#include "curtain_wizard/fabric_requirement.h"
 #include "curtain_wizard/frm_preferences.h"
 #include "curtain_wizard/wizard.h"
 #include "job/job_screen.h"
-#include "job/option_lists.h"
-#include "store/data_files.h"
+#include "shop/shop.h"
 
-namespace tarvane {
+namespace tarvane::curtain_wizard {
 namespace {
 
 using Wizard = MainCWizard;
@@ -20,9 +18,6 @@ constexpr int kTrimStep = 4;
 constexpr int kLabourStep = 5;
 constexpr int kLastStep = Wizard::kSteps - 1;
 
-// Printing waits for the screen that shows rich text.
-constexpr bool kPrintingBuilt = false;
-
 constexpr std::array<std::string_view, Wizard::kSteps> kHelpLines = {
     "Welcome to the Tarvane Window Wizard. Enter in your curtain details to get the amount of fabric needed.",
     "Step 2 Costing for Fabric.",
@@ -33,31 +28,24 @@ constexpr std::array<std::string_view, Wizard::kSteps> kHelpLines = {
     "Step 7 Printing or saving the information.",
 };
 
+constexpr int kFirstListOption = 5;
 constexpr std::string_view kSaveCaption = "Save As New Order and Close";
 
 }  // namespace
 
-MainCWizard::MainCWizard(Host& host, JobScreen& job)
-    : Screen(host, "MainCWizard"),
+MainCWizard::MainCWizard(Host& host, Shop& shop, job::JobScreen& job)
+    : Screen(host, std::string(kName)),
       StepTabs(
-          this, "StepTabs",
+          &StepsPanel, "StepTabs",
           {"1 Measurements", "2 Fabric", "3 Tape", "4 Lining", "5 Trims", "6 Labour", "7 Print or Save"}),
-      Option5(this, "Option5", kOptionLists[0].caption, kListGroup),
-      Option6(this, "Option6", kOptionLists[1].caption, kListGroup),
-      Option7(this, "Option7", kOptionLists[2].caption, kListGroup),
-      Option8(this, "Option8", kOptionLists[3].caption, kListGroup),
-      Option9(this, "Option9", kOptionLists[4].caption, kListGroup),
-      Option10(this, "Option10", kOptionLists[5].caption, kListGroup),
+      Lists(&ListPanel, shop, kFirstListOption, kListGroup, [this] { FillListEntries(); }),
+      shop_(shop),
       job_(&job) {
-  PlaceControls();
+  NameControls();
   CostingGrid.SetWidths({500, 1000, 4200, 1000});
-  for (OptionButton* preset : {&UnitCms, &OptionCancel, &NoTieBacks, &Option5}) preset->Set(true);
+  for (OptionButton* preset : {&UnitCms, &OptionCancel, &NoTieBacks}) preset->Set(true);
   CmdUpdateAndClose.SetVisible(false);
-  // What these open isn't built yet.
-  for (Button* button : {&CmdSelect, &CmdGobletWizard, &CmdConverter, &CmdGetFabricFromDatabase, &CmdPrint,
-                         &Cmdprintwithoutprices}) {
-    button->SetEnabled(false);
-  }
+  CmdGetInfo.SetEnabled(false);
   HookFlow();
   HookMeasurements();
   HookCosting();
@@ -78,7 +66,7 @@ void MainCWizard::HookFlow() {
     if (SureToClose()) Close();
   });
   CmdCurOptions.OnClicked([this] {
-    FrmPreferences preferences(host(), *this);
+    FrmPreferences preferences(host(), shop_, *this);
     ShowModal(preferences);
   });
   CmdCalculator.OnClicked([this] { host().Launch("calc"); });
@@ -94,15 +82,23 @@ void MainCWizard::Load() {
   FillPickLists();
   FillListEntries();
   SetPrompts();
-  ReadOptions();
-  TxtAdminVat.SetText(job_->Data2.HasRow() ? job_->Data2.rows().Value("VatAmount") : "");
+  // Where the file can't be read that is told, and the defaults stand.
+  Guard([this] { TakeOptions(*this, ReadOptionLines(shop_), OptionsFor::kNewItem); });
+  Guard([this] { TxtAdminVat.SetText(shop_.Get(setting::kVat)); });
   cboVAT.SetText(TxtAdminVat.text());
+  entered_rate_ = cboVAT.text();
   ApplyTieBacks();
   ApplyLiningNeeded();
   MarkLinkSaved();
 }
 
+// A screen that was opened from here leaves the item as it is but for these actions: an item in work is
+// neither read again nor numbered anew.
 void MainCWizard::Activate() {
+  if (is_shown()) {
+    RunClickActions();
+    return;
+  }
   const bool view_only = TxtViewOnly.text() == "1";
   if (view_only) {
     CmdWizard.SetEnabled(false);
@@ -112,18 +108,12 @@ void MainCWizard::Activate() {
     if (!Txtinfo.empty()) LoadItemRecord();
     SetTitle("View and Printing Only");
   }
-  AddTrims.RunClick();
-  ShowSteps(true);
-  FabricPriceExVat.RunClick();
-  TrimPriceExVat.RunClick();
-  InputInInches.RunClick();
+  RunClickActions();
   if (!Txtinfo.empty()) {
     LoadItemRecord();
     SetTitle("Edit Entry");
     CmdFinishTwo.SetCaption(kSaveCaption);
     CmdUpdateAndClose.SetVisible(true);
-    // Without Get Info the item would be saved with no price.
-    CmdUpdateAndClose.SetEnabled(false);
   } else if (!view_only) {
     StartNewEntry();
   }
@@ -133,12 +123,22 @@ void MainCWizard::Activate() {
   }
 }
 
-// The number is used up at once, whether the item is saved or not.
+void MainCWizard::RunClickActions() {
+  for (TickBox* box : {&AddTrims, &FabricPriceExVat, &TrimPriceExVat, &InputInInches}) box->RunClick();
+}
+
+// The number is used up at once, whether the item is saved or not. A quick calculation goes on without one
+// that can't be stored; an item of the job doesn't, since two would get the same.
 void MainCWizard::StartNewEntry() {
   SetTitle("New Entry");
   TxtRoom.SetText("Room " + job_->TxtRoomNum.text());
   ItemNumber.SetText(job_->TxtLastOrderNo.text());
-  job_->TxtLastOrderNo.SetText(NumberText(job_->TxtLastOrderNo.Number() + 1));
+  const auto raise = [this] { job_->RaiseOrderNumber(); };
+  if (TxtViewOnly.text() == "2") {
+    Guard(raise);
+  } else {
+    raise();
+  }
   CmdFinishTwo.SetCaption(kSaveCaption);
   CmdFinishTwo.SetVisible(true);
 }
@@ -148,6 +148,7 @@ int MainCWizard::CurrentMember(std::string_view family) const { return family ==
 bool MainCWizard::MayClose() { return SureToClose(); }
 
 bool MainCWizard::SureToClose() {
+  if (focus() == &cboVAT) StoreTaxRate();
   return host().Ask({"Closing Wizard", "Closing wizard. Are you sure?.", {Answer::kYes, Answer::kNo}}) !=
          Answer::kNo;
 }
@@ -168,8 +169,8 @@ void MainCWizard::SetStep() {
   CmdNext.SetEnabled(step_ != kLastStep);
   // While it loads, the first field of the screen is to have the focus.
   if (step_ == 0 && is_shown()) SetFocus(CmdNext);
-  // On the last step too it waits for Get Info.
-  CmdFinishTwo.SetEnabled(false);
+  // On the last step too they wait for Get Info.
+  for (Button* save : {&CmdFinishTwo, &CmdUpdateAndClose}) save->SetEnabled(false);
   for (int i = 0; i < kSteps; ++i) StepPanel[i].SetVisible(i == step_);
   HelpLine.SetCaption(kHelpLines[static_cast<std::size_t>(step_)]);
   RunEntryAction();
@@ -203,11 +204,12 @@ void MainCWizard::RunEntryAction() {
 
 // The texts for the customer and for the room are kept: a second pass appends to them.
 void MainCWizard::ArriveAtLabour() {
-  if (TrimCost.Number() > 0) CalculateTrims.Press();
-  if (AutoRoundup.on()) RoundUpTrims.Press();
+  if (AddTrims.on()) {
+    if (TrimCost.Number() > 0) CalculateTrims.Press();
+    if (AutoRoundup.on()) RoundUpTrims.Press();
+  }
   LabourWidths.SetText(NumberOfDrops.text());
   CmdGetInfo.SetEnabled(true);
-  CmdUpdateAndClose.SetEnabled(false);
   EnablePrinting(false);
   ItemTextPriced.SetText("");
   for (TextField* total : {&totalCostingWiz, &TotalCostingVat, &GrandTotal}) total->SetText("0.00");
@@ -215,21 +217,8 @@ void MainCWizard::ArriveAtLabour() {
 }
 
 void MainCWizard::EnablePrinting(bool on) {
-  CmdPrint.SetEnabled(on && kPrintingBuilt);
-  Cmdprintwithoutprices.SetEnabled(on && kPrintingBuilt);
+  CmdPrint.SetEnabled(on);
+  Cmdprintwithoutprices.SetEnabled(on);
 }
 
-// A file that isn't there, or an entry that it lacks, leaves the defaults.
-void MainCWizard::ReadOptions() {
-  // By line; the first is the mark-up, which the wizard has no use for. Mirrors follow by themselves.
-  TextField* const fields[] = {nullptr,    &LabourPrice, &LiningPrice,    &InterliningPrice,
-                               &TapePrice, &Fullness,    &HemAllowanceIns};
-  const auto text = ReadFile(FindFile(job_->folder(), data_file::kWizardOptions));
-  if (!text) return;
-  const std::vector<std::string> lines = SplitLines(*text);
-  for (std::size_t i = 1; i < std::min(lines.size(), std::size(fields)); ++i) fields[i]->SetText(lines[i]);
-  // The start values of the two hem boxes disagree, also where the hem stays as it is.
-  IgnoreFaults([this] { HemAllowanceCm.SetText(InchesToCm(HemAllowanceIns.text())); });
-}
-
-}  // namespace tarvane
+}  // namespace tarvane::curtain_wizard

@@ -4,26 +4,40 @@
 
 #include "curtain_wizard/fabric_requirement.h"
 #include "curtain_wizard/wizard.h"
-#include "job/job_screen.h"
-#include "store/data_files.h"
+#include "shop/shop.h"
+#include "text/trim.h"
 
-namespace tarvane {
+namespace tarvane::curtain_wizard {
 namespace {
 
 // Mark-up, fullness and hem have one decimal, prices two.
 Mask BoxMask(int box) { return box == 0 || box == 5 || box == 6 ? Mask::k0_0 : Mask::k0_00; }
 
-// A line break within a value would shift all lines behind it.
-std::string OneLine(std::string text) {
-  std::ranges::replace_if(
-      text, [](char c) { return c == '\r' || c == '\n'; }, ' ');
-  return text;
+// Where each line goes; the wizard has no use for the mark-up. Mirrors follow by themselves.
+std::array<TextField*, FrmPreferences::kStored> OptionFields(MainCWizard& w) {
+  return {nullptr,      &w.LabourPrice, &w.LiningPrice,     &w.InterliningPrice,
+          &w.TapePrice, &w.Fullness,    &w.HemAllowanceIns, &w.cboVAT};
 }
+constexpr std::size_t kTaxLine = 7;
 
 }  // namespace
 
-FrmPreferences::FrmPreferences(Host& host, MainCWizard& wizard)
-    : Screen(host, "FrmPreferences"), wizard_(&wizard) {
+std::vector<std::string> ReadOptionLines(const Shop& shop) {
+  return shop.ReadList(data_file::kWizardOptions);
+}
+
+void TakeOptions(MainCWizard& wizard, const std::vector<std::string>& lines, OptionsFor purpose) {
+  const auto fields = OptionFields(wizard);
+  const std::size_t end = purpose == OptionsFor::kNewItem ? kTaxLine : fields.size();
+  for (std::size_t i = 1; i < std::min(lines.size(), end); ++i) fields[i]->SetText(lines[i]);
+  // The start values of the two hem boxes disagree, also where the hem stays as it is.
+  if (!lines.empty()) {
+    IgnoreFaults([&wizard] { wizard.HemAllowanceCm.SetText(InchesToCm(wizard.HemAllowanceIns.text())); });
+  }
+}
+
+FrmPreferences::FrmPreferences(Host& host, Shop& shop, MainCWizard& wizard)
+    : Screen(host, std::string(kName)), shop_(shop), wizard_(&wizard) {
   SetTitle("Curtain Wizard Preferences");
   for (int box = 0; box < kBoxes; ++box) {
     TextField& field = Text1[box];
@@ -34,33 +48,22 @@ FrmPreferences::FrmPreferences(Host& host, MainCWizard& wizard)
   Command1.OnClicked([this] { Close(); });
 }
 
-std::filesystem::path FrmPreferences::File() const {
-  return FindFile(wizard_->job().folder(), data_file::kWizardOptions);
-}
-
 void FrmPreferences::Load() {
-  const std::vector<std::string> lines = SplitLines(ReadFile(File()).value_or(""));
+  const std::vector<std::string> lines = ReadOptionLines(shop_);
   for (std::size_t i = 0; i < std::min<std::size_t>(lines.size(), kStored); ++i) Text1[i].SetText(lines[i]);
 }
 
 void FrmPreferences::Save() {
   std::vector<std::string> lines;
+  lines.reserve(kStored);
   for (int i = 0; i < kStored; ++i) lines.push_back(OneLine(Text1[i].text()));
-  wizard_->LabourPrice.SetText(lines[1]);
-  wizard_->LiningPrice.SetText(lines[2]);
-  wizard_->InterliningPrice.SetText(lines[3]);
-  wizard_->TapePrice.SetText(lines[4]);
-  wizard_->Fullness.SetText(lines[5]);
-  wizard_->FullnessMirror.SetText(lines[5]);
-  wizard_->HemAllowanceIns.SetText(lines[6]);
-  IgnoreFaults([&] { wizard_->HemAllowanceCm.SetText(InchesToCm(wizard_->HemAllowanceIns.text())); });
-  wizard_->cboVAT.SetText(lines[7]);
+  TakeOptions(*wizard_, lines, OptionsFor::kAll);
   try {
-    ReplaceFile(File(), JoinLines(lines));
+    ReplaceFile(shop_.File(data_file::kWizardOptions), JoinLines(lines));
   } catch (const Fault&) {
     Message("Error Found! cannot save options", kProgramTitle, Icon::kWarning);
   }
   Close();
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::curtain_wizard

@@ -3,7 +3,7 @@
 
 #include "curtain_wizard/wizard.h"
 
-namespace tarvane {
+namespace tarvane::curtain_wizard {
 namespace {
 
 using Wizard = MainCWizard;
@@ -211,4 +211,4 @@ void MainCWizard::GetInfo() {
   ItemTextRoom.SetText(Join(texts.room, "~", rule, "~Price Includes Vat/Tax ", GrandTotal, "~", rule, "~"));
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::curtain_wizard

@@ -4,7 +4,7 @@
 
 #include "curtain_wizard/wizard.h"
 
-namespace tarvane {
+namespace tarvane::curtain_wizard {
 namespace {
 
 constexpr std::size_t kMostSplitFields = 100;
@@ -163,6 +163,8 @@ void MainCWizard::LoadItemRecord() {
   if (values[kAutoRoundupPlace] == "1") AutoRoundup.Set(true);
   // The record has no place for this tick; without it a trim would drop out of the item as it is edited.
   AddTrims.Set(TrimCost.Number() > 0);
+  // So that the box of the trim's VAT, ticked and cleared, leads back to the price of the item.
+  TxtPriceTarget2.SetText(TrimPrice.text());
   ApplyTrims();
   ApplyRestored();
 }
@@ -177,4 +179,4 @@ void MainCWizard::ApplyRestored() {
   ApplyPlacements();
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::curtain_wizard

@@ -9,10 +9,10 @@
 #include "screen/control.h"
 #include "screen/field.h"
 
-// The saved state of a curtain item: its fields in a settled order, each followed by "~". Texts go as they
-// stand, tick boxes as "0" or "1", round options as "True" or "False". Nothing escapes a "~" in a text: it
-// shifts all that follows by one on the way back.
-namespace tarvane {
+// The saved state of a curtain item: its fields in an order that never changes, a "~" behind each. A box is
+// written as "1" or "0", an option as "True" or "False", a text unaltered: one that holds a "~" counts as two
+// when it is read, and every later field comes out one place off.
+namespace tarvane::curtain_wizard {
 
 class MainCWizard;
 
@@ -48,4 +48,4 @@ std::string ItemRecord(MainCWizard& wizard);
 // most.
 std::vector<std::string> SplitItemRecord(std::string_view record);
 
-}  // namespace tarvane
+}  // namespace tarvane::curtain_wizard

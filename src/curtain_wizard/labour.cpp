@@ -1,7 +1,7 @@
 #include "curtain_wizard/fabric_requirement.h"
 #include "curtain_wizard/wizard.h"
 
-namespace tarvane {
+namespace tarvane::curtain_wizard {
 
 void MainCWizard::HookLabour() {
   LabourWidths.OnChanged([this] { CostLabour(); });
@@ -18,17 +18,17 @@ void MainCWizard::HookLabour() {
 }
 
 void MainCWizard::CostLabour() {
-  PutNumber(LabourCost, LabourPrice.Number() * LabourWidths.Number(), Mask::k0_00);
+  LabourCost.SetNumber(LabourPrice.Number() * LabourWidths.Number(), Mask::k0_00);
   LabourCosting();
 }
 
 void MainCWizard::LabourCosting() {
-  PutNumber(TotalLabour, TieBackLabour.Number() + ExtraLabour.Number() + LabourCost.Number(), Mask::k0_00);
+  TotalLabour.SetNumber(TieBackLabour.Number() + ExtraLabour.Number() + LabourCost.Number(), Mask::k0_00);
 }
 
 void MainCWizard::AddVat() {
-  PutNumber(TotalCostingVat, TxtVatRate.Number() * totalCostingWiz.Number() / 100, Mask::k0_00);
-  PutNumber(GrandTotal, totalCostingWiz.Number() + TotalCostingVat.Number(), Mask::k0_00);
+  TotalCostingVat.SetNumber(TxtVatRate.Number() * totalCostingWiz.Number() / 100, Mask::k0_00);
+  GrandTotal.SetNumber(totalCostingWiz.Number() + TotalCostingVat.Number(), Mask::k0_00);
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::curtain_wizard

@@ -4,15 +4,16 @@
 #include "curtain_wizard/wizard.h"
 #include "job/room_text.h"
 #include "store/data_files.h"
+#include "text/trim.h"
 
-namespace tarvane {
+namespace tarvane::curtain_wizard {
 namespace {
 
 constexpr std::string_view kFilter = "Tarvane Files (*.tvs)|*.tvs";
 constexpr std::size_t kLinkLines = 40;
 
-// Line 14 holds an option of the list editor where the goblet option would belong, so that a goblet choice
-// does not survive the file; files in use have it so. Lines 39 and 40 are the same.
+// Line 14 holds an option of the list editor where one would look for the goblet option, which is thereby
+// lost; the files in use have it so. Lines 39 and 40 are the same.
 std::array<StoredControl, kLinkLines> LinkFields(MainCWizard& w) {
   return {
       w.TrackWidthIns,
@@ -28,7 +29,7 @@ std::array<StoredControl, kLinkLines> LinkFields(MainCWizard& w) {
       w.CutLengthIns,
       w.CutLengthCm,
       w.AutoMeasureBoxPleat,
-      w.Option5,
+      w.Lists.Options[0],
       w.OptionCancel,
       w.TxtAutoTrack,
       w.FabricName,
@@ -117,4 +118,4 @@ void MainCWizard::ReadLink(const std::filesystem::path& file) {
   ApplyRestored();
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::curtain_wizard

@@ -1,10 +1,10 @@
 #include <cmath>
 
 #include "curtain_wizard/fabric_requirement.h"
-#include "text_number/fault.h"
+#include "text/fault.h"
 #include "text_number/text_number.h"
 
-namespace tarvane {
+namespace tarvane::curtain_wizard {
 namespace {
 
 // The three decimals of the text's number.
@@ -43,12 +43,4 @@ std::string CmToInches(std::string_view centimetres) {
 
 double ThroughText(double value) { return ParseLeading(NumberText(value)); }
 
-void PutNumber(TextField& field, double value) {
-  if (std::isfinite(value)) field.SetText(NumberText(value));
-}
-
-void PutNumber(TextField& field, double value, Mask mask) {
-  if (std::isfinite(value)) field.SetText(FormatNumber(value, mask));
-}
-
-}  // namespace tarvane
+}  // namespace tarvane::curtain_wizard

@@ -6,7 +6,7 @@
 #include "curtain_wizard/fabric_requirement.h"
 #include "curtain_wizard/wizard.h"
 
-namespace tarvane {
+namespace tarvane::curtain_wizard {
 namespace {
 
 using Wizard = MainCWizard;
@@ -76,6 +76,7 @@ void MainCWizard::HookTrims() {
   CalculateTrims.OnClicked([this] { CheckedCalTrims(); });
   RoundUpTrims.OnClicked([this] { RoundUpTrimMetres(); });
   TrimPrice.OnTyped([this] { TxtPriceTarget2.SetText(TrimPrice.text()); });
+  TrimPrice.OnChanged([this] { PriceTrim(); });
   TrimPrice.OnPicked([this] { PriceTrim(); });
   TrimPrice.OnEnterKey([this] { PriceTrim(); });
   TrimPriceExVat.OnClicked([this] { ApplyTrimVat(); });
@@ -84,9 +85,11 @@ void MainCWizard::HookTrims() {
 void MainCWizard::ApplyTrims() {
   const bool on = AddTrims.on();
   for (Control* control : std::initializer_list<Control*>{
-           &TrimKind, &CboTrims, &TrimName, &AllSides, &BordersPanel, &TxtBorderCutSize, &TrimByWidths,
-           &TxtCurtainWidths, &TxtFabricWidth, &TxtDropCuts, &CalculateTrims, &TxtAmountInches,
-           &TxtAmountMetres, &RoundUpTrims, &TrimMetres, &TrimPrice, &TrimPriceExVat, &TrimCost}) {
+           &TrimKind,         &CboTrims,       &TrimName,    &AllSides,         &BordersPanel,
+           &FrillPanel,       &TrimmingPanel,  &ManualPanel, &TxtBorderCutSize, &TrimByWidths,
+           &TxtCurtainWidths, &TxtFabricWidth, &TxtDropCuts, &CalculateTrims,   &TxtAmountInches,
+           &TxtAmountMetres,  &RoundUpTrims,   &TrimMetres,  &TrimPrice,        &TrimPriceExVat,
+           &TrimCost}) {
     control->SetEnabled(on);
   }
   ApplyPlacements();
@@ -129,8 +132,8 @@ void MainCWizard::CalTrims() {
   if (TrimKind.text() == "Border") inches = BorderInches(trim);
   if (TrimKind.text() == "Trimming") inches = TrimmingInches(trim);
   if (inches) {
-    PutNumber(TxtAmountInches, *inches);
-    PutNumber(TxtAmountMetres, TxtAmountInches.Number() / kMetreInches, Mask::k0_00);
+    TxtAmountInches.SetNumber(*inches);
+    TxtAmountMetres.SetNumber(TxtAmountInches.Number() / kMetreInches, Mask::k0_00);
   }
   TrimMetres.SetText(TxtAmountMetres.text());
   PriceTrim();
@@ -146,7 +149,7 @@ void MainCWizard::ApplyTrimUnit() {
   PriceTrim();
 }
 
-void MainCWizard::PriceTrim() { PutNumber(TrimCost, TrimMetres.Number() * TrimPrice.Number(), Mask::k0_00); }
+void MainCWizard::PriceTrim() { TrimCost.SetNumber(TrimMetres.Number() * TrimPrice.Number(), Mask::k0_00); }
 
 void MainCWizard::ApplyTrimVat() {
   const bool taxed = cboVAT.Number() > 0;
@@ -156,7 +159,7 @@ void MainCWizard::ApplyTrimVat() {
   if (without) {
     IgnoreFaults([this] {
       const double divisor = ParseLeading(VatDivisor(cboVAT.text()));
-      PutNumber(TrimPrice, ParseStrict(TrimPrice.text()) / divisor * 100, Mask::k0_00);
+      TrimPrice.SetNumber(ParseStrict(TrimPrice.text()) / divisor * 100, Mask::k0_00);
     });
   } else {
     TrimPrice.SetText(TxtPriceTarget2.text());
@@ -168,7 +171,7 @@ void MainCWizard::ApplyTrimVat() {
 void MainCWizard::RoundUpTrimMetres() {
   TxtAmountMetres.SetText(RoundUpMetres(TxtAmountMetres.text()));
   TrimMetres.SetText(TxtAmountMetres.text());
-  PutNumber(TrimCost, TrimMetres.Number() * TrimPrice.Number());
+  TrimCost.SetNumber(TrimMetres.Number() * TrimPrice.Number());
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::curtain_wizard

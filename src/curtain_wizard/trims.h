@@ -2,7 +2,7 @@
 
 #include <optional>
 
-namespace tarvane {
+namespace tarvane::curtain_wizard {
 
 // What a trim is cut from and where it goes. Measures in inches; `widths` may be metres of fabric where the
 // worker counts by metres.
@@ -18,11 +18,11 @@ struct TrimMeasure {
   bool four_sides = false;
 };
 
-// Inches of border; nothing where no placement is chosen. Sides add to what top and bottom take; where the
-// fabric is too narrow to cut the sides out of one drop, a second one is taken.
+// Inches of border; nothing where no placement is chosen. The strips of the sides come on top of those of
+// top and bottom; where one drop is too narrow for them, a second one is taken.
 std::optional<double> BorderInches(const TrimMeasure& trim);
 
 // Inches of trimming.
 double TrimmingInches(const TrimMeasure& trim);
 
-}  // namespace tarvane
+}  // namespace tarvane::curtain_wizard

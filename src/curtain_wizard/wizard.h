@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,10 +11,16 @@
 #include "screen/field.h"
 #include "screen/grid.h"
 #include "screen/screen.h"
+#include "shop/list_editor.h"
 
 namespace tarvane {
-
+class Shop;
+namespace job {
 class JobScreen;
+}
+}  // namespace tarvane
+
+namespace tarvane::curtain_wizard {
 
 // The seven-step curtain wizard: from the measurements of one window to one priced item of a room.
 //
@@ -26,13 +33,16 @@ class JobScreen;
 // since other screens and tests run them; none of them faults unless told.
 class MainCWizard : public Screen {
  public:
+  static constexpr std::string_view kName = "MainCWizard";
   static constexpr int kSteps = 7;
 
   // `job` is the main screen; it must outlive the wizard.
-  MainCWizard(Host& host, JobScreen& job);
+  MainCWizard(Host& host, Shop& shop, job::JobScreen& job);
 
-  JobScreen& job() const { return *job_; }
+  job::JobScreen& job() const { return *job_; }
   int step() const { return step_; }
+  // The item was put into the job, and the job committed.
+  bool item_saved() const { return item_saved_; }
 
   // Runs what belongs to the arrival at the present step.
   void SetStep();
@@ -65,9 +75,10 @@ class MainCWizard : public Screen {
   Panel StepsPanel{this, "StepsPanel"};  // the tabs and the panel of the step
   Panel ListPanel{this, "ListPanel"};    // "List Options": the list editor and the tax rate
   TabStrip StepTabs;
-  Panel StepPanel[kSteps]{{this, "StepPanel", 0}, {this, "StepPanel", 1}, {this, "StepPanel", 2},
-                          {this, "StepPanel", 3}, {this, "StepPanel", 4}, {this, "StepPanel", 5},
-                          {this, "StepPanel", 6}};
+  Panel StepPanel[kSteps]{{&StepsPanel, "StepPanel", 0}, {&StepsPanel, "StepPanel", 1},
+                          {&StepsPanel, "StepPanel", 2}, {&StepsPanel, "StepPanel", 3},
+                          {&StepsPanel, "StepPanel", 4}, {&StepsPanel, "StepPanel", 5},
+                          {&StepsPanel, "StepPanel", 6}};
   Label HelpLine{this, "HelpLine"};
   Button CmdBack{this, "CmdBack", "<< &Back"};
   Button CmdNext{this, "CmdNext", "&Next >>"};
@@ -75,9 +86,9 @@ class MainCWizard : public Screen {
   Button CmdWizard{this, "CmdWizard", "&Wizard"};
   Button CmdListOptions{this, "CmdListOptions", "List &Options"};
   Button CmdCurOptions{this, "CmdCurOptions", "&Set Preferences"};
-  Button CmdSelect{this, "CmdSelect", "Select from Database"};
-  Button CmdGobletWizard{this, "CmdGobletWizard", "Goblet Wizard"};
-  Button CmdConverter{this, "CmdConverter", "Converter"};
+  Button CmdSelect{this, "CmdSelect", "Select from Database", kNotBuilt};
+  Button CmdGobletWizard{this, "CmdGobletWizard", "Goblet Wizard", kNotBuilt};
+  Button CmdConverter{this, "CmdConverter", "Converter", kNotBuilt};
   Button CmdCalculator{this, "CmdCalculator", "Calcu&lator"};
   Button CmdHelpTip{this, "CmdHelpTip", "Help Tip"};
   Button CmdFinishTwo{this, "CmdFinishTwo", "&Save New Order and Close"};
@@ -103,133 +114,123 @@ class MainCWizard : public Screen {
   TextField ItemTextRoom{this, "ItemTextRoom", "", -1, TextField::Kind::kMemo};  // lines ended by "~"
 
   // ---- Step 1, measurements ----
-  DropDownList CboCurtainStyle{this, "CboCurtainStyle"};
-  TickBox InputInInches{this, "InputInInches", "Input Measument in Centimetres"};
-  TextField TrackWidthIns{this, "TrackWidthIns"};
-  TextField TrackWidthCm{this, "TrackWidthCm"};
-  TextField FabricWidthIns{this, "FabricWidthIns", "54"};
-  TextField FabricWidthCm{this, "FabricWidthCm", "139.7"};
-  TextField Fullness{this, "Fullness", "2"};
-  TextField FullnessMirror{this, "FullnessMirror", "2"};
-  TextField FinishedLengthIns{this, "FinishedLengthIns"};
-  TextField FinishedLengthCm{this, "FinishedLengthCm"};
-  TextField PatternRepeatIns{this, "PatternRepeatIns"};
-  TextField PatternRepeatCm{this, "PatternRepeatCm"};
-  TextField HemAllowanceIns{this, "HemAllowanceIns", "9"};
-  TextField HemAllowanceCm{this, "HemAllowanceCm", "20.32"};
-  Label UnitLabel[2]{{this, "UnitLabel", 0, "Cms"}, {this, "UnitLabel", 1, "Cms"}};
-  OptionButton UnitCms{this, "UnitCms", "Cms", kUnitGroup};
-  OptionButton UnitMm{this, "UnitMm", "mm", kUnitGroup};
-  OptionButton AutoMeasureGoblet{this, "AutoMeasureGoblet", "Goblet - Track X by 2.5", kAutoMeasureGroup};
-  OptionButton AutoMeasureBoxPleat{this, "AutoMeasureBoxPleat", "Box Pleated Track X by 3",
+  DropDownList CboCurtainStyle{&StepPanel[0], "CboCurtainStyle"};
+  TickBox InputInInches{&StepPanel[0], "InputInInches", "Input Measument in Centimetres"};
+  TextField TrackWidthIns{&StepPanel[0], "TrackWidthIns"};
+  TextField TrackWidthCm{&StepPanel[0], "TrackWidthCm"};
+  TextField FabricWidthIns{&StepPanel[0], "FabricWidthIns", "54"};
+  TextField FabricWidthCm{&StepPanel[0], "FabricWidthCm", "139.7"};
+  TextField Fullness{&StepPanel[0], "Fullness", "2"};
+  TextField FullnessMirror{&StepPanel[0], "FullnessMirror", "2"};
+  TextField FinishedLengthIns{&StepPanel[0], "FinishedLengthIns"};
+  TextField FinishedLengthCm{&StepPanel[0], "FinishedLengthCm"};
+  TextField PatternRepeatIns{&StepPanel[0], "PatternRepeatIns"};
+  TextField PatternRepeatCm{&StepPanel[0], "PatternRepeatCm"};
+  TextField HemAllowanceIns{&StepPanel[0], "HemAllowanceIns", "9"};
+  TextField HemAllowanceCm{&StepPanel[0], "HemAllowanceCm", "20.32"};
+  Label UnitLabel[2]{{&StepPanel[0], "UnitLabel", 0, "Cms"}, {&StepPanel[0], "UnitLabel", 1, "Cms"}};
+  OptionButton UnitCms{&StepPanel[0], "UnitCms", "Cms", kUnitGroup};
+  OptionButton UnitMm{&StepPanel[0], "UnitMm", "mm", kUnitGroup};
+  OptionButton AutoMeasureGoblet{&StepPanel[0], "AutoMeasureGoblet", "Goblet - Track X by 2.5",
+                                 kAutoMeasureGroup};
+  OptionButton AutoMeasureBoxPleat{&StepPanel[0], "AutoMeasureBoxPleat", "Box Pleated Track X by 3",
                                    kAutoMeasureGroup};
-  OptionButton OptionCancel{this, "OptionCancel", "Cancel", kAutoMeasureGroup};
-  Button CmdCalculate{this, "CmdCalculate", "Click to Calculate "};
-  TextField NumberOfDrops{this, "NumberOfDrops"};
-  TextField PatternsPerDrop{this, "PatternsPerDrop"};
-  TextField CutLengthIns{this, "CutLengthIns"};
-  TextField CutLengthCm{this, "CutLengthCm"};
-  TextField MetresRequired{this, "MetresRequired"};
-  Button CmdRoundUp{this, "CmdRoundUp", "Round Up"};
-  TickBox AutoRoundup{this, "AutoRoundup", "Auto Round Up"};
+  OptionButton OptionCancel{&StepPanel[0], "OptionCancel", "Cancel", kAutoMeasureGroup};
+  Button CmdCalculate{&StepPanel[0], "CmdCalculate", "Click to Calculate "};
+  TextField NumberOfDrops{&StepPanel[0], "NumberOfDrops"};
+  TextField PatternsPerDrop{&StepPanel[0], "PatternsPerDrop"};
+  TextField CutLengthIns{&StepPanel[0], "CutLengthIns"};
+  TextField CutLengthCm{&StepPanel[0], "CutLengthCm"};
+  TextField MetresRequired{&StepPanel[0], "MetresRequired"};
+  Button CmdRoundUp{&StepPanel[0], "CmdRoundUp", "Round Up"};
+  TickBox AutoRoundup{&StepPanel[0], "AutoRoundup", "Auto Round Up"};
 
   // ---- Step 2, fabric ----
-  Button CmdGetFabricFromDatabase{this, "CmdGetFabricFromDatabase", "Get Fabric"};
-  TextField FabricName{this, "FabricName", "Enter Fabric Name Here"};
-  TextField FabricMetres{this, "FabricMetres"};
-  DropDownList FabricPrice{this, "FabricPrice", "0.00"};
-  TickBox FabricPriceExVat{this, "FabricPriceExVat", "Price ex VAT"};
-  TextField FabricCost{this, "FabricCost", "0.00"};
+  Button CmdGetFabricFromDatabase{&StepPanel[1], "CmdGetFabricFromDatabase", "Get Fabric", kNotBuilt};
+  TextField FabricName{&StepPanel[1], "FabricName", "Enter Fabric Name Here"};
+  TextField FabricMetres{&StepPanel[1], "FabricMetres"};
+  DropDownList FabricPrice{&StepPanel[1], "FabricPrice", "0.00"};
+  TickBox FabricPriceExVat{&StepPanel[1], "FabricPriceExVat", "Price ex VAT"};
+  TextField FabricCost{&StepPanel[1], "FabricCost", "0.00"};
 
   // ---- Step 3, tape and tie backs ----
-  TextField TxtTape{this, "TxtTape"};
-  DropDownList TapePrice{this, "TapePrice", "0.50"};
-  TextField TapeCost{this, "TapeCost", "0.00"};
-  OptionButton NoTieBacks{this, "NoTieBacks", "No Tie Backs Needed in Same Fabric", kTieBackGroup};
-  OptionButton TieBacksNeeded{this, "TieBacksNeeded", "Tie Backs Needed", kTieBackGroup};
-  DropDownList CboTieBacks{this, "CboTieBacks"};
-  DropDownList TieBackStyle{this, "TieBackStyle"};
-  TextField TxtNoOfTieBacks{this, "TxtNoOfTieBacks", "2"};
-  TextField TxtTieBacksUnitPrice{this, "TxtTieBacksUnitPrice", "0.00"};
-  TextField TieBackTotal{this, "TieBackTotal", "0.00"};
+  TextField TxtTape{&StepPanel[2], "TxtTape"};
+  DropDownList TapePrice{&StepPanel[2], "TapePrice", "0.50"};
+  TextField TapeCost{&StepPanel[2], "TapeCost", "0.00"};
+  OptionButton NoTieBacks{&StepPanel[2], "NoTieBacks", "No Tie Backs Needed in Same Fabric", kTieBackGroup};
+  OptionButton TieBacksNeeded{&StepPanel[2], "TieBacksNeeded", "Tie Backs Needed", kTieBackGroup};
+  DropDownList CboTieBacks{&StepPanel[2], "CboTieBacks"};
+  DropDownList TieBackStyle{&StepPanel[2], "TieBackStyle"};
+  TextField TxtNoOfTieBacks{&StepPanel[2], "TxtNoOfTieBacks", "2"};
+  TextField TxtTieBacksUnitPrice{&StepPanel[2], "TxtTieBacksUnitPrice", "0.00"};
+  TextField TieBackTotal{&StepPanel[2], "TieBackTotal", "0.00"};
 
   // ---- Step 4, lining ----
-  TickBox LiningByWidths{this, "LiningByWidths", "Widths"};  // ticked: the amounts are metres
-  TickBox LiningNeeded{this, "LiningNeeded", "Lining Needed"};
-  TextField TxtLiningName{this, "TxtLiningName"};
-  TextField LiningAmount{this, "LiningAmount"};
-  DropDownList LiningPrice{this, "LiningPrice", "0.00"};
-  TextField LiningCost{this, "LiningCost", "0.00"};
-  TickBox InterliningNeeded{this, "InterliningNeeded", "Interlining Needed"};
-  TextField TxtInterliningName{this, "TxtInterliningName"};
-  TextField InterliningAmount{this, "InterliningAmount"};
-  DropDownList InterliningPrice{this, "InterliningPrice", "0.00"};
-  TextField InterliningCost{this, "InterliningCost", "0.00"};
+  TickBox LiningByWidths{&StepPanel[3], "LiningByWidths", "Widths"};  // ticked: the amounts are metres
+  TickBox LiningNeeded{&StepPanel[3], "LiningNeeded", "Lining Needed"};
+  TextField TxtLiningName{&StepPanel[3], "TxtLiningName"};
+  TextField LiningAmount{&StepPanel[3], "LiningAmount"};
+  DropDownList LiningPrice{&StepPanel[3], "LiningPrice", "0.00"};
+  TextField LiningCost{&StepPanel[3], "LiningCost", "0.00"};
+  TickBox InterliningNeeded{&StepPanel[3], "InterliningNeeded", "Interlining Needed"};
+  TextField TxtInterliningName{&StepPanel[3], "TxtInterliningName"};
+  TextField InterliningAmount{&StepPanel[3], "InterliningAmount"};
+  DropDownList InterliningPrice{&StepPanel[3], "InterliningPrice", "0.00"};
+  TextField InterliningCost{&StepPanel[3], "InterliningCost", "0.00"};
 
   // ---- Step 5, trims ----
-  TickBox AddTrims{this, "AddTrims", "Add Trims to this Job"};
-  DropDownList TrimKind{this, "TrimKind"};
-  DropDownList CboTrims{this, "CboTrims"};
-  TextField TrimName{this, "TrimName", "Enter Trim or Fabric Name Etc Here"};
-  TickBox AllSides{this, "AllSides", "All Sides Top and Bottom"};
-  TickBox PlaceTop{this, "PlaceTop", "Top"};
-  TickBox PlaceBottom{this, "PlaceBottom", "Bottom"};
-  TickBox PlaceTwoSides{this, "PlaceTwoSides", "Two Sides"};
-  TickBox PlaceFourSides{this, "PlaceFourSides", "Four Sides"};
+  TickBox AddTrims{&StepPanel[4], "AddTrims", "Add Trims to this Job"};
+  DropDownList TrimKind{&StepPanel[4], "TrimKind"};
+  DropDownList CboTrims{&StepPanel[4], "CboTrims"};
+  TextField TrimName{&StepPanel[4], "TrimName", "Enter Trim or Fabric Name Etc Here"};
+  TickBox AllSides{&StepPanel[4], "AllSides", "All Sides Top and Bottom"};
+  TickBox PlaceTop{&StepPanel[4], "PlaceTop", "Top"};
+  TickBox PlaceBottom{&StepPanel[4], "PlaceBottom", "Bottom"};
+  TickBox PlaceTwoSides{&StepPanel[4], "PlaceTwoSides", "Two Sides"};
+  TickBox PlaceFourSides{&StepPanel[4], "PlaceFourSides", "Four Sides"};
   // One of these four is shown, by TrimKind.
-  Panel BordersPanel{this, "BordersPanel"};
-  Panel FrillPanel{this, "FrillPanel"};
-  Panel TrimmingPanel{this, "TrimmingPanel"};
-  Panel ManualPanel{this, "ManualPanel"};
-  TextField TxtBorderCutSize{this, "TxtBorderCutSize"};  // in BordersPanel
-  TickBox TrimByWidths{this, "TrimByWidths", "Metres"};  // ticked: TxtCurtainWidths holds widths
-  TextField TxtCurtainWidths{this, "TxtCurtainWidths"};
-  TextField TxtFabricWidth{this, "TxtFabricWidth", "54"};
-  TextField TxtDropCuts{this, "TxtDropCuts", "0"};
-  Button CalculateTrims{this, "CalculateTrims", "&Calcurlate"};
-  TextField TxtAmountInches{this, "TxtAmountInches"};
-  TextField TxtAmountMetres{this, "TxtAmountMetres"};
-  Button RoundUpTrims{this, "RoundUpTrims", "&Round Up"};
-  TextField TrimMetres{this, "TrimMetres"};
-  Label TrimPriceLabel{this, "TrimPriceLabel", -1, "Price Per Metre Inc Vat/Tax"};
-  DropDownList TrimPrice{this, "TrimPrice", "0.00"};
-  TickBox TrimPriceExVat{this, "TrimPriceExVat", "Price Inc VAT"};
-  TextField TrimCost{this, "TrimCost", "0.00"};
+  Panel BordersPanel{&StepPanel[4], "BordersPanel"};
+  Panel FrillPanel{&StepPanel[4], "FrillPanel"};
+  Panel TrimmingPanel{&StepPanel[4], "TrimmingPanel"};
+  Panel ManualPanel{&StepPanel[4], "ManualPanel"};
+  TextField TxtBorderCutSize{&BordersPanel, "TxtBorderCutSize"};  // in BordersPanel
+  TickBox TrimByWidths{&StepPanel[4], "TrimByWidths", "Metres"};  // ticked: TxtCurtainWidths holds widths
+  TextField TxtCurtainWidths{&StepPanel[4], "TxtCurtainWidths"};
+  TextField TxtFabricWidth{&StepPanel[4], "TxtFabricWidth", "54"};
+  TextField TxtDropCuts{&StepPanel[4], "TxtDropCuts", "0"};
+  Button CalculateTrims{&StepPanel[4], "CalculateTrims", "&Calcurlate"};
+  TextField TxtAmountInches{&StepPanel[4], "TxtAmountInches"};
+  TextField TxtAmountMetres{&StepPanel[4], "TxtAmountMetres"};
+  Button RoundUpTrims{&StepPanel[4], "RoundUpTrims", "&Round Up"};
+  TextField TrimMetres{&StepPanel[4], "TrimMetres"};
+  Label TrimPriceLabel{&StepPanel[4], "TrimPriceLabel", -1, "Price Per Metre Inc Vat/Tax"};
+  DropDownList TrimPrice{&StepPanel[4], "TrimPrice", "0.00"};
+  TickBox TrimPriceExVat{&StepPanel[4], "TrimPriceExVat", "Price Inc VAT"};
+  TextField TrimCost{&StepPanel[4], "TrimCost", "0.00"};
 
   // ---- Step 6, labour ----
-  TextField LabourWidths{this, "LabourWidths"};
-  DropDownList LabourPrice{this, "LabourPrice", "0.00"};
-  TextField LabourCost{this, "LabourCost", "0.00"};
-  TextField TieBackLabour{this, "TieBackLabour", "0.00"};
-  TextField ExtraLabourText{this, "ExtraLabourText", "N/A"};
-  TextField ExtraLabour{this, "ExtraLabour", "0.00"};
-  TextField TotalLabour{this, "TotalLabour", "0.00"};
+  TextField LabourWidths{&StepPanel[5], "LabourWidths"};
+  DropDownList LabourPrice{&StepPanel[5], "LabourPrice", "0.00"};
+  TextField LabourCost{&StepPanel[5], "LabourCost", "0.00"};
+  TextField TieBackLabour{&StepPanel[5], "TieBackLabour", "0.00"};
+  TextField ExtraLabourText{&StepPanel[5], "ExtraLabourText", "N/A"};
+  TextField ExtraLabour{&StepPanel[5], "ExtraLabour", "0.00"};
+  TextField TotalLabour{&StepPanel[5], "TotalLabour", "0.00"};
 
   // ---- Step 7, print or save ----
-  Button CmdGetInfo{this, "CmdGetInfo", "Get Info"};
-  HeldGrid CostingGrid{this, "CostingGrid", {"I-No", "Item", "Description", "Price"}};
-  TextField totalCostingWiz{this, "totalCostingWiz", "0.00"};
-  TextField TxtVatRate{this, "TxtVatRate"};
-  TextField TotalCostingVat{this, "TotalCostingVat", "0.00"};
-  TextField GrandTotal{this, "GrandTotal", "0.00"};
-  Button CmdPrint{this, "CmdPrint", "&Print With Prices"};
-  Button Cmdprintwithoutprices{this, "Cmdprintwithoutprices", "Print &With Out Prices"};
-  Button CmdCopy{this, "CmdCopy", "Copy To Clipboard"};
+  Button CmdGetInfo{&StepPanel[6], "CmdGetInfo", "Get Info"};
+  HeldGrid CostingGrid{&StepPanel[6], "CostingGrid", {"I-No", "Item", "Description", "Price"}};
+  TextField totalCostingWiz{&StepPanel[6], "totalCostingWiz", "0.00"};
+  TextField TxtVatRate{&StepPanel[6], "TxtVatRate"};
+  TextField TotalCostingVat{&StepPanel[6], "TotalCostingVat", "0.00"};
+  TextField GrandTotal{&StepPanel[6], "GrandTotal", "0.00"};
+  Button CmdPrint{&StepPanel[6], "CmdPrint", "&Print With Prices", kNotBuilt};
+  Button Cmdprintwithoutprices{&StepPanel[6], "Cmdprintwithoutprices", "Print &With Out Prices", kNotBuilt};
+  Button CmdCopy{&StepPanel[6], "CmdCopy", "Copy To Clipboard"};
 
-  // ---- List editor, in ListPanel ----
-  OptionButton Option5;  // the option lists, in the order of their table
-  OptionButton Option6;
-  OptionButton Option7;
-  OptionButton Option8;
-  OptionButton Option9;
-  OptionButton Option10;
-  ListBox lstData{this, "lstData"};
-  TextField txtLog{this, "txtLog"};  // the file of the list that is loaded
-  Button CMDLOAD{this, "CMDLOAD", "&Load"};
-  Button CMDADD{this, "CMDADD", "&Add Entry"};
-  Button CMDDELETE{this, "CMDDELETE", "&Delete Entry"};
-  Button CMDSAVE{this, "CMDSAVE", "&Save"};
-  DropDownList cboVAT{this, "cboVAT"};  // "Set Vat/Tax"
+  // ---- List editor and tax rate, in ListPanel ----
+  ListEditor Lists;                           // Option5 to Option10
+  DropDownList cboVAT{&ListPanel, "cboVAT"};  // "Set Vat/Tax"; what is chosen is stored in VatAmount
 
  protected:
   void Load() override;
@@ -240,7 +241,7 @@ class MainCWizard : public Screen {
  private:
   enum Group { kUnitGroup = 1, kAutoMeasureGroup, kTieBackGroup, kListGroup };
 
-  void PlaceControls();
+  void NameControls();
   void HookFlow();
   void MoveBy(int steps);
   void ShowSteps(bool steps);  // the steps, or the list editor
@@ -250,12 +251,13 @@ class MainCWizard : public Screen {
   void FillPickLists();
   void FillListEntries();
   void SetPrompts();
-  void ReadOptions();
+  void RunClickActions();  // those of an activation
   void StartNewEntry();
   bool SureToClose();
 
   // Fabric requirement.
   void HookMeasurements();
+  void ConvertWhereChanged(TextField& box, const Rule& convert);
   double MeasuredTrack();
   void CalculatePatterned();
   void CalculatePlain();
@@ -264,6 +266,7 @@ class MainCWizard : public Screen {
   void ShowMillimetres();
   void SetUnitLabels(std::string_view unit);
   bool AnyMeasureEmpty() const;
+  void KeepUnit();
 
   // Costing.
   void HookCosting();
@@ -294,24 +297,26 @@ class MainCWizard : public Screen {
   void ApplyRestored();
   void FinishNew();
   void Update();
+  void SaveInJob(const std::function<void(std::size_t room, HeldGrid& grid)>& change);
   void CopyToClipboard();
 
-  // List editor.
+  // List editor and tax rate.
   void HookLists();
-  void LoadList();
-  void AddToList();
-  void SaveList();
+  void StoreTaxRate();
 
   // Link files.
   void MarkLinkSaved();
   void WriteLink(const std::filesystem::path& file);
   void ReadLink(const std::filesystem::path& file);
 
-  JobScreen* job_;
+  Shop& shop_;
+  job::JobScreen* job_;
   int step_ = 0;
-  bool list_changed_ = false;
-  std::string saved_link_;  // as it was last opened, saved or started
+  bool item_saved_ = false;
+  const TextField* typed_box_ = nullptr;  // the measure that was typed into and isn't converted yet
+  std::string entered_rate_;              // the tax rate as the worker came to it
+  std::string saved_link_;                // as it was last opened, saved or started
   std::filesystem::path link_file_;
 };
 
-}  // namespace tarvane
+}  // namespace tarvane::curtain_wizard

@@ -1,12 +1,10 @@
-#include <array>
-#include <initializer_list>
+#include <utility>
 
 #include "curtain_wizard/wizard.h"
-#include "job/job_screen.h"
-#include "job/option_lists.h"
-#include "store/data_files.h"
+#include "shop/shop.h"
+#include "store/row_set.h"
 
-namespace tarvane {
+namespace tarvane::curtain_wizard {
 namespace {
 
 using Wizard = MainCWizard;
@@ -86,11 +84,6 @@ const PickList kPickLists[] = {
     {&Wizard::cboVAT, Series(100, 1, Mask::k0_0)},
 };
 
-// The options of the list editor, in the order of kOptionLists.
-constexpr std::array<OptionButton Wizard::*, kOptionLists.size()> kListOptions = {
-    &Wizard::Option5, &Wizard::Option6, &Wizard::Option7,
-    &Wizard::Option8, &Wizard::Option9, &Wizard::Option10};
-
 }  // namespace
 
 void MainCWizard::FillPickLists() {
@@ -100,9 +93,10 @@ void MainCWizard::FillPickLists() {
 void MainCWizard::FillListEntries() {
   for (const FiledList& filed : kFiledLists) {
     Entries entries = filed.own == nullptr ? Entries() : *filed.own;
-    for (std::string& line : LoadListFile(FindFile(job_->folder(), filed.file))) {
-      entries.push_back(std::move(line));
-    }
+    // A list that can't be read is told and stays empty.
+    Guard([&] {
+      for (std::string& line : shop_.ReadList(filed.file)) entries.push_back(std::move(line));
+    });
     (this->*filed.list).SetEntries(std::move(entries));
   }
   TrimKind.SetEntries({"Border", "Trimming"});
@@ -116,42 +110,21 @@ void MainCWizard::SetPrompts() {
 void MainCWizard::HookLists() {
   CmdListOptions.OnClicked([this] { ShowSteps(false); });
   CmdWizard.OnClicked([this] { ShowSteps(true); });
-  for (Button* button : {&CMDADD, &CMDDELETE, &CMDSAVE}) button->SetEnabled(false);
-  CMDLOAD.OnClicked([this] { LoadList(); });
-  CMDADD.OnClicked([this] { AddToList(); });
-  CMDDELETE.OnClicked([this] {
-    if (lstData.selected() < 0) return;
-    lstData.RemoveEntry(static_cast<std::size_t>(lstData.selected()));
-    list_changed_ = true;
-  });
-  CMDSAVE.OnClicked([this] { SaveList(); });
+  cboVAT.OnEntered([this] { entered_rate_ = cboVAT.text(); });
+  cboVAT.OnPicked([this] { StoreTaxRate(); });
+  cboVAT.OnEnterKey([this] { StoreTaxRate(); });
+  cboVAT.OnLeft([this] { StoreTaxRate(); });
 }
 
-void MainCWizard::LoadList() {
-  if (list_changed_) {
-    Message("This list box has change please save before loading the next list.", "Tarvane Listed");
-    return;
-  }
-  for (std::size_t i = 0; i < kListOptions.size(); ++i) {
-    if (!(this->*kListOptions[i]).on()) continue;
-    const std::filesystem::path file = FindFile(job_->folder(), kOptionLists[i].file);
-    txtLog.SetText(file.string());
-    lstData.SetEntries(LoadListFile(file));
-    for (Button* button : {&CMDADD, &CMDDELETE, &CMDSAVE}) button->SetEnabled(true);
-  }
+// Only what the worker chose here: the preferences fill the box as well.
+void MainCWizard::StoreTaxRate() {
+  if (cboVAT.text() == entered_rate_) return;
+  entered_rate_ = cboVAT.text();
+  RowSet settings;
+  settings.Open(shop_.database(), kAdminTable);
+  if (!settings.HasRow()) return;
+  settings.SetValue(setting::kVat.column, cboVAT.text());
+  settings.Update();
 }
 
-void MainCWizard::AddToList() {
-  if (const auto entry = host().Input("User Input", "List Entry:", "")) {
-    lstData.AddEntry(*entry);
-    list_changed_ = true;
-  }
-}
-
-void MainCWizard::SaveList() {
-  SaveListFile(*this, txtLog.text(), lstData.entries());
-  list_changed_ = false;
-  FillListEntries();
-}
-
-}  // namespace tarvane
+}  // namespace tarvane::curtain_wizard

@@ -4,7 +4,6 @@
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QFrame>
-#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -14,17 +13,17 @@
 #include <charconv>
 
 #include "desktop/fields.h"
+#include "desktop/flow.h"
+#include "desktop/line_typing.h"
 #include "desktop/list_views.h"
+#include "desktop/make.h"
+#include "desktop/readers.h"
 #include "desktop/text.h"
 #include "desktop/theme.h"
+#include "screen/kinds.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 namespace {
-
-template <typename Widget, typename... Arguments>
-Widget* Make(Arguments&&... arguments) {
-  return std::make_unique<Widget>(std::forward<Arguments>(arguments)...).release();
-}
 
 void ScaleFont(QWidget* widget, bool strong) {
   if (!strong) return;
@@ -46,20 +45,34 @@ int FunctionKeyOf(std::string_view caption) {
 }
 
 Piece Builder::Put(Control& control, const Look& look) {
-  if (auto* field = dynamic_cast<TextField*>(&control)) return Field(*field, look);
-  if (auto* box = dynamic_cast<TickBox*>(&control)) return Tick(*box);
-  if (auto* button = dynamic_cast<Button*>(&control)) return Press(*button, look.strong);
-  if (auto* label = dynamic_cast<Label*>(&control)) return Text(*label);
-  if (auto* list = dynamic_cast<ListBox*>(&control)) return List(*list);
-  if (auto* grid = dynamic_cast<Grid*>(&control)) return Table(*grid);
-  throw Fault("No widget shows the control " + control.name() + ".");
+  return VisitKind(
+      control, [&](TextField& field) { return Field(field, look); }, [&](TickBox& box) { return Tick(box); },
+      [&](Button& button) { return Press(button, look.strong); }, [&](Label& label) { return Text(label); },
+      [&](ListBox& list) { return List(list); }, [&](Grid& grid) { return Table(grid); },
+      [&](Calendar& calendar) { return Month(calendar); },
+      [&](TabStrip& tabs) { return Tabs(tabs, [](int) {}); },
+      [&](Panel& panel) -> Piece {
+        throw Fault("A panel is shown by its group, not by a widget: " + panel.name() + ".");
+      });
 }
 
 Piece Builder::Field(TextField& field, const Look& look) {
-  if (field.kind() == TextField::Kind::kMemo) return Memo(field, look);
-  if (auto* list = dynamic_cast<DropDownList*>(&field)) return DropDown(*list, look);
-  QLineEdit* edit = MakeLineEdit(*form_, field);
+  const auto* list = As<DropDownList>(field);
+  const Piece piece = field.kind() == TextField::Kind::kMemo ? Memo(field, look)
+                      : list != nullptr                      ? DropDown(*As<DropDownList>(field), look)
+                                                             : Line(field, look);
+  Name(field, look.name);
+  return piece;
+}
+
+void Builder::Name(const Control& control, std::string_view name) {
+  if (auto* widget = qobject_cast<QWidget*>(form_->WidgetOf(control))) SetReaderName(widget, PlainText(name));
+}
+
+Piece Builder::Line(TextField& field, const Look& look) {
+  QLineEdit* edit = MakeLineEdit(*form_, field, look.mirror);
   if (look.number) edit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  if (look.number && !look.words && !field.read_only()) AskForNumber(edit, edit);
   Measure(edit, look);
   return WithUnit({edit, nullptr, look.width == 0 ? 1 : 0}, field, look);
 }
@@ -76,7 +89,10 @@ Piece Builder::Memo(TextField& field, const Look& look) {
 
 Piece Builder::DropDown(DropDownList& list, const Look& look) {
   QComboBox* combo = MakeDropDown(*form_, list);
-  if (look.number && combo->lineEdit() != nullptr) combo->lineEdit()->setAlignment(Qt::AlignRight);
+  if (look.number && combo->lineEdit() != nullptr) {
+    combo->lineEdit()->setAlignment(Qt::AlignRight);
+    if (!look.words) AskForNumber(combo, combo->lineEdit());
+  }
   Measure(combo, look);
   return WithUnit({combo, nullptr, look.width == 0 ? 1 : 0}, list, look);
 }
@@ -98,6 +114,7 @@ Piece Builder::WithUnit(const Piece& piece, const Control& control, const Look& 
   if (look.unit.empty()) return piece;
   auto* unit = Make<QLabel>(ToQt(look.unit));
   WriteQuietly(unit);
+  SetReaderUnit(piece.widget, ToQt(look.unit));
   form_->ShowWith(unit, {&control});
   return Row({piece, {unit}}, 1).Grow(piece.stretch);
 }
@@ -137,10 +154,14 @@ Piece Builder::Rule() {
   return {line};
 }
 
+Piece Builder::Month(Calendar& calendar) { return {MakeCalendar(*form_, calendar)}; }
+
 Piece Builder::List(ListBox& list) { return {MakeListBox(*form_, list), nullptr, 1}; }
 
 Piece Builder::Table(Grid& grid, const TableLook& look) {
-  return {MakeTable(*form_, grid, look), nullptr, 1};
+  QTableView* table = MakeTable(*form_, grid, look);
+  SetReaderName(table, ToQt(look.name));
+  return {table, nullptr, 1};
 }
 
 void Builder::AddTo(QBoxLayout* layout, const Piece& piece) {
@@ -158,94 +179,66 @@ void Builder::AddTo(QBoxLayout* layout, const Piece& piece) {
 Piece Builder::Row(const Pieces& pieces, int quarters) {
   auto* row = Make<QHBoxLayout>();
   row->setSpacing(Quarters(quarters));
+  NameByTexts(pieces);
   for (const Piece& piece : pieces) AddTo(row, piece);
   return {nullptr, row};
+}
+
+Piece Builder::Flow(const Pieces& pieces, int quarters) {
+  auto* flow = Make<FlowLayout>(Quarters(quarters), Quarters(1));
+  NameByTexts(pieces);
+  for (const Piece& piece : pieces) {
+    if (piece.widget != nullptr) {
+      flow->Add(piece.widget, piece.stretch);
+    } else if (piece.layout != nullptr) {
+      flow->Add(piece.layout, piece.stretch);
+    } else if (piece.gap > 0) {
+      flow->AddGap(Quarters(piece.gap));
+    } else {
+      flow->AddSpring(std::max(1, piece.stretch));
+    }
+  }
+  return {nullptr, flow};
 }
 
 Piece Builder::Column(const Pieces& pieces, int quarters) {
   auto* column = Make<QVBoxLayout>();
   column->setSpacing(Quarters(quarters));
+  NameByTexts(pieces);
   for (const Piece& piece : pieces) AddTo(column, piece);
   return {nullptr, column};
 }
 
-QLabel* Builder::MakeCaption(const Caption& caption, const std::vector<Entry>& entries, QWidget* buddy) {
-  QLabel* label = nullptr;
-  if (caption.label != nullptr) {
-    label = qobject_cast<QLabel*>(MakeLabel(*form_, *caption.label));
-  } else {
-    label = Make<QLabel>(ToQt(caption.text));
-    std::vector<const Control*> controls;
-    for (const Entry& entry : entries) {
-      if (entry.control != nullptr) controls.push_back(entry.control);
-    }
-    if (!controls.empty()) form_->ShowWith(label, std::move(controls));
-  }
-  if (label == nullptr) return nullptr;
-  if (buddy != nullptr) label->setBuddy(buddy);
-  return label;
-}
-
-namespace {
-
-// What a page says when it is read aloud: the field's caption.
-void NameForReaders(QWidget* widget, const Caption& caption) {
-  if (widget == nullptr || widget->accessibleName().size() > 0) return;
-  widget->setAccessibleName(PlainCaption(caption.label != nullptr ? caption.label->caption() : caption.text));
-}
-
-}  // namespace
-
-Piece Builder::Fields(const std::vector<FieldLine>& lines, int columns) {
-  auto* grid = Make<QGridLayout>();
-  grid->setHorizontalSpacing(Quarters(2));
-  grid->setVerticalSpacing(Quarters(1));
-  const int count = static_cast<int>(lines.size());
-  const int height = (count + columns - 1) / columns;
-  for (int at = 0; at < count; ++at) {
-    const FieldLine& line = lines[static_cast<std::size_t>(at)];
-    const int row = at % height;
-    const int column = at / height * 3;  // the third one is the distance to the next captions
-    Pieces pieces;
-    bool grows = false;
-    for (const Entry& entry : line.entries) {
-      pieces.push_back(entry.control != nullptr ? Put(*entry.control, entry.look) : entry.piece);
-      grows = grows || pieces.back().stretch > 0;
-    }
-    QWidget* first = nullptr;
-    if (!line.entries.empty() && line.entries.front().control != nullptr) {
-      first = qobject_cast<QWidget*>(form_->WidgetOf(*line.entries.front().control));
-    }
-    QLabel* label = MakeCaption(line.caption, line.entries, first);
-    NameForReaders(first, line.caption);
-    if (line.entries.empty()) {
-      if (line.caption.text.empty() && line.caption.label == nullptr) {
-        grid->setRowMinimumHeight(row, Quarters(2));
-        label->deleteLater();
-      } else {
-        grid->addWidget(label, row, column, 1, 2);
-      }
-      continue;
-    }
-    const bool tall = pieces.size() == 1 && qobject_cast<QPlainTextEdit*>(pieces.front().widget) != nullptr;
-    if (label != nullptr) grid->addWidget(label, row, column, tall ? Qt::AlignTop : Qt::AlignVCenter);
-    if (!grows) pieces.push_back(Spring());
-    if (pieces.size() == 1 && pieces.front().widget != nullptr) {
-      grid->addWidget(pieces.front().widget, row, column + 1);
-    } else {
-      grid->addLayout(Row(pieces).layout, row, column + 1);
-    }
-    grid->setColumnStretch(column + 1, 1);
-    if (column > 0) grid->setColumnMinimumWidth(column - 1, Quarters(3));
-  }
-  return {nullptr, grid};
-}
-
 Piece Builder::Group(std::string_view heading, const Pieces& pieces) {
   Pieces all;
-  if (!heading.empty()) all = {Column({Heading(heading), Rule()}, 1)};
+  if (!heading.empty()) {
+    const Piece text = Heading(heading);
+    const Piece rule = Rule();
+    for (const Piece& piece : pieces) NameAll(piece, PlainText(heading));
+    ShowUnlessAllIsToCome({text.widget, rule.widget}, pieces);
+    all = {Column({text, rule}, 1)};
+  }
   all.insert(all.end(), pieces.begin(), pieces.end());
   return Column(all, 2);
+}
+
+// A heading over what is still to come alone goes with it.
+void Builder::ShowUnlessAllIsToCome(const std::vector<QWidget*>& headings, const Pieces& pieces) {
+  std::vector<const Control*> controls;
+  for (const Piece& piece : pieces) {
+    for (const QWidget* widget : WidgetsIn(piece)) {
+      const Control* control = form_->ControlOf(*widget);
+      if (control != nullptr && control->to_come()) {
+        controls.push_back(control);
+        continue;
+      }
+      // Frames without anything in them are texts and rules, others only hold what is looked at as well.
+      const bool alone = widget->findChild<QWidget*>() == nullptr;
+      if (control != nullptr || (alone && qobject_cast<const QFrame*>(widget) == nullptr)) return;
+    }
+  }
+  if (controls.empty()) return;
+  for (QWidget* heading : headings) form_->ShowWith(heading, controls);
 }
 
 Piece Builder::Group(Panel& panel, const Pieces& pieces) {
@@ -259,6 +252,7 @@ Piece Builder::Group(Panel& panel, const Pieces& pieces) {
   all.insert(all.end(), pieces.begin(), pieces.end());
   box->setLayout(Column(all, 2).layout);
   box->layout()->setContentsMargins(0, 0, 0, 0);
+  for (const Piece& piece : pieces) NameAll(piece, PlainText(panel.caption()));
   form_->Bind(panel, box, [heading, rule, &panel](Aspect aspect) {
     if (aspect != Aspect::kCaption) return;
     heading->setText(ToQt(panel.caption()));
@@ -300,4 +294,4 @@ Piece Builder::Margin(const Piece& piece, int quarters) {
   return {box, nullptr, piece.stretch};
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

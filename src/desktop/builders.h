@@ -6,13 +6,15 @@
 #include <vector>
 
 #include "desktop/form.h"
+#include "screen/finder.h"
+#include "screen/record_bar.h"
 
 class QBoxLayout;
 class QLabel;
 class QLayout;
 class QWidget;
 
-namespace tarvane {
+namespace tarvane::desktop {
 
 // A widget or a layout, and the share of spare room that it takes in the row or column that it stands in.
 struct Piece {
@@ -33,7 +35,13 @@ struct Look {
   int lines = 0;          // height of a memo; 0: the room that there is
   bool strong = false;    // large and bold, for what is read at a distance
   char line_mark = 0;     // a read-only memo shows its lines where the text has this mark; 0: as they are
+  bool mirror = false;    // another field leads where the screen disables this one: then it is only read
+  bool words = false;     // a number that the screen may replace by words
+  std::string name = {};  // for readers, where no caption stands beside it
 };
+
+// Lines are written down as what they are: "Name", {{screen.Name}}.
+// NOLINTBEGIN(google-explicit-constructor)
 
 // One of the fields (also a tick box, button, label, list) of a line.
 struct Entry {
@@ -61,6 +69,7 @@ struct FieldLine {
   Caption caption;
   std::vector<Entry> entries;
 };
+// NOLINTEND(google-explicit-constructor)
 
 // A column of a table, by its heading in the grid.
 struct TableColumn {
@@ -75,6 +84,9 @@ struct TableColumn {
 struct TableLook {
   std::vector<TableColumn> columns;
   std::string_view wide = {};  // the column that takes the spare room; "": the last one
+  std::string_view name = {};  // for readers, where no heading stands over it
+  Button* insert = nullptr;    // what the keys Insert and Delete press in the table; they do it as a toolbar
+  Button* remove = nullptr;    // button does, so that the focus stays; null: nothing
 };
 
 // Makes the widgets of a form out of the controls of its screen, and arranges them. Widgets get the focus in
@@ -84,8 +96,7 @@ class Builder {
   explicit Builder(Form& form) : form_(&form) {}
   Form& form() const { return *form_; }
 
-  // By what the control is: text field, memo, drop-down list, tick box, round option, button, label, list,
-  // grid.
+  // By the kind of the control; faults for a panel, which a group shows.
   Piece Put(Control& control, const Look& look = {});
 
   Piece Field(TextField& field, const Look& look = {});
@@ -93,6 +104,11 @@ class Builder {
   Piece Press(Button& button, bool strong = false);
   Piece Text(Label& label, bool quiet = false);
   Piece List(ListBox& list);
+  Piece Month(Calendar& calendar);
+  // The position in a table, between the buttons that move there; Alt+Left and Alt+Right step as well.
+  Piece Records(RecordBar& bar);
+  // Category, text and buttons in a row, or in two where there is no room for that.
+  Piece Find(Finder& finder);
   Piece Table(Grid& grid, const TableLook& look = {});
 
   // A text that never changes.
@@ -104,12 +120,15 @@ class Builder {
 
   Piece Row(const Pieces& pieces, int quarters = 2);
   Piece Column(const Pieces& pieces, int quarters = 2);
+  // In a row that goes on in the next one where the width is used up; its height follows.
+  Piece Flow(const Pieces& pieces, int quarters = 2);
   // Lines with their captions and fields each in one column, going down and then to the next of `columns`.
   Piece Fields(const std::vector<FieldLine>& lines, int columns = 1);
   // A heading over its pieces. The second shows and hides with its panel, whose caption is the heading.
   Piece Group(std::string_view heading, const Pieces& pieces);
   Piece Group(Panel& panel, const Pieces& pieces);
-  // Pages under their tabs; a page is built when it is first shown.
+  // Pages under their tabs; a page is built when it is first shown. Ctrl+1, Ctrl+2... show the pages of the
+  // first tabs that a window gets.
   using PageBuilder = std::function<Piece()>;
   // `beside` stands at the right of all of them.
   Piece Pages(TabStrip& tabs, std::vector<PageBuilder> pages, const Piece& beside = {});
@@ -119,12 +138,22 @@ class Builder {
   Piece Scroll(const Piece& piece, int quarters = 3);
   Piece Margin(const Piece& piece, int quarters = 3);
 
+  // Makes one Tab stop of controls that were put already (labels to click on, buttons): arrow keys, Home and
+  // End walk along them. Tab arrives at the one that `preferred` tells, an index, or else at the one where
+  // the worker was last.
+  void OneTabStop(const std::vector<Control*>& controls, std::function<int()> preferred = {});
+
+  // What readers say of a field that was put, where neither a caption nor a heading tells it.
+  void Name(const Control& control, std::string_view name);
+
  private:
   void AddTo(QBoxLayout* layout, const Piece& piece);
+  Piece Line(TextField& field, const Look& look);
   Piece Memo(TextField& field, const Look& look);
   Piece DropDown(DropDownList& list, const Look& look);
   Piece WithUnit(const Piece& piece, const Control& control, const Look& look);
   void Measure(QWidget* widget, const Look& look);
+  void ShowUnlessAllIsToCome(const std::vector<QWidget*>& headings, const Pieces& pieces);
   QLabel* MakeCaption(const Caption& caption, const std::vector<Entry>& entries, QWidget* buddy);
 
   Form* form_;
@@ -133,4 +162,4 @@ class Builder {
 // The F-key that a caption names at its end ("&Payment F2"): 2; 0 for none.
 int FunctionKeyOf(std::string_view caption);
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

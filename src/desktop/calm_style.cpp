@@ -1,12 +1,14 @@
 #include "desktop/calm_style.h"
 
+#include <QAbstractScrollArea>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleOption>
 
+#include "desktop/readers.h"
 #include "desktop/theme.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 namespace {
 
 QColor Frame(const QStyleOption& option) {
@@ -21,14 +23,31 @@ QColor Fill(const QStyleOption& option) {
   return option.palette.color(flat ? QPalette::Window : QPalette::Base);
 }
 
-void DrawField(const QStyleOption& option, QPainter* painter) {
+// The accent stays in windows behind others.
+QColor Accent(const QStyleOption& option) {
+  return option.palette.color(IsOff(option) ? QPalette::Disabled : QPalette::Active, QPalette::Highlight);
+}
+
+void DrawField(const QStyleOption& option, QPainter* painter, const QWidget* widget) {
   const bool focus = option.state & QStyle::State_HasFocus;
+  const bool wrong = widget != nullptr && !IsOff(option) && HasFault(*widget);
   painter->save();
   painter->setRenderHint(QPainter::Antialiasing);
   painter->setBrush(Fill(option));
-  painter->setPen(QPen(focus ? option.palette.color(QPalette::Highlight) : Frame(option), focus ? 2 : 1));
+  painter->setPen(
+      QPen(wrong ? WrongColour() : (focus ? Accent(option) : Frame(option)), focus || wrong ? 2 : 1));
   painter->drawRoundedRect(QRectF(option.rect).adjusted(1, 1, -1, -1), 2, 2);
   painter->restore();
+}
+
+// Around lists, tables and memos: a line, and one within it while they have the focus.
+void DrawFrame(const QStyleOption& option, QPainter* painter) {
+  const bool focus = option.state & QStyle::State_HasFocus;
+  painter->setBrush(Qt::NoBrush);
+  painter->setPen(focus ? Accent(option) : Frame(option));
+  painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+  painter->setPen(focus ? Accent(option) : Fill(option));
+  painter->drawRect(option.rect.adjusted(1, 1, -2, -2));
 }
 
 QRectF Square(const QStyleOption& option) {
@@ -41,7 +60,7 @@ QRectF Square(const QStyleOption& option) {
 // A tick box or a round option: filled with the accent where it is on.
 void DrawIndicator(const QStyleOption& option, QPainter* painter, bool round) {
   const bool on = option.state & QStyle::State_On;
-  const QColor accent = option.palette.color(IsOff(option) ? QPalette::Dark : QPalette::Highlight);
+  const QColor accent = IsOff(option) ? option.palette.color(QPalette::Dark) : Accent(option);
   const QRectF square = Square(option);
   painter->save();
   painter->setRenderHint(QPainter::Antialiasing);
@@ -53,7 +72,7 @@ void DrawIndicator(const QStyleOption& option, QPainter* painter, bool round) {
   } else {
     painter->drawRoundedRect(square, 2, 2);
   }
-  const QColor mark = option.palette.color(QPalette::HighlightedText);
+  const QColor mark = option.palette.color(QPalette::Active, QPalette::HighlightedText);
   if (on && round) {
     painter->setPen(Qt::NoPen);
     painter->setBrush(mark);
@@ -78,13 +97,11 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     case PE_PanelLineEdit: {
       const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
       // The line of a drop-down list has its frame from the list.
-      if (frame == nullptr || frame->lineWidth > 0) return DrawField(*option, painter);
+      if (frame == nullptr || frame->lineWidth > 0) return DrawField(*option, painter, widget);
       return painter->fillRect(option->rect, Fill(*option));
     }
     case PE_Frame:
-      painter->setBrush(Qt::NoBrush);
-      painter->setPen(Frame(*option));
-      return painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+      return DrawFrame(*option, painter);
     case PE_IndicatorCheckBox:
       return DrawIndicator(*option, painter, false);
     case PE_IndicatorRadioButton:
@@ -97,7 +114,7 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
 void CalmStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                    QPainter* painter, const QWidget* widget) const {
   if (control != CC_ComboBox) return QProxyStyle::drawComplexControl(control, option, painter, widget);
-  DrawField(*option, painter);
+  DrawField(*option, painter, widget);
   const QRectF arrow = subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget);
   const double half = Quarters(1);
   const QPointF middle = arrow.center();
@@ -119,6 +136,11 @@ QRect CalmStyle::subElementRect(SubElement element, const QStyleOption* option, 
 
 int CalmStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
   switch (metric) {
+    case PM_DefaultFrameWidth:
+      // Room for the mark of the focus.
+      return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr
+                 ? 2
+                 : QProxyStyle::pixelMetric(metric, option, widget);
     case PM_FocusFrameHMargin:  // beside the texts of lists
       return Quarters(2);
     case PM_HeaderMargin:
@@ -151,4 +173,4 @@ int CalmStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
   return QProxyStyle::styleHint(hint, option, widget, data);
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

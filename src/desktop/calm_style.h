@@ -2,7 +2,7 @@
 
 #include <QProxyStyle>
 
-namespace tarvane {
+namespace tarvane::desktop {
 
 // The platform-independent style with more room around texts, and with frames, boxes and options that can be
 // made out in the dark as well as in the light.
@@ -22,4 +22,4 @@ class CalmStyle : public QProxyStyle {
                 QStyleHintReturn* data) const override;
 };
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

@@ -1,7 +1,9 @@
 #include "desktop/fields.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QButtonGroup>
+#include <QCalendarWidget>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -10,17 +12,33 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
+#include <QScrollBar>
 #include <QShortcut>
+#include <QTextDocument>
+#include <QToolTip>
 
 #include "desktop/builders.h"
+#include "desktop/line_typing.h"
+#include "desktop/make.h"
 #include "desktop/text.h"
 #include "desktop/theme.h"
+#include "screen/kinds.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 namespace {
 
-// The wheel scrolls the page and never changes a value in passing.
+// The wheel scrolls the page and never changes a value in passing. The list that folds out is as wide as its
+// longest entry.
 class CalmComboBox : public QComboBox {
+ public:
+  void showPopup() override {
+    const int bar = view()->verticalScrollBar()->sizeHint().width();
+    const int wanted = view()->sizeHintForColumn(0) + bar + 2 * view()->frameWidth();
+    view()->setMinimumWidth(std::min(wanted, screen()->availableSize().width()));
+    QComboBox::showPopup();
+  }
+
  protected:
   void wheelEvent(QWheelEvent* event) override { event->ignore(); }
 };
@@ -50,8 +68,14 @@ class NameButton : public PlainButton {
   QSize sizeHint() const override {
     return fontMetrics().size(Qt::TextShowMnemonic, text()) + QSize(Quarters(2), Quarters(2));
   }
+  QSize minimumSizeHint() const override { return sizeHint().boundedTo({Quarters(24), sizeHint().height()}); }
 
  protected:
+  bool event(QEvent* event) override {
+    if (event->type() != QEvent::ToolTip || Shown() == text()) return PlainButton::event(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+    return true;
+  }
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
     QFont written = font();
@@ -59,23 +83,14 @@ class NameButton : public PlainButton {
     painter.setFont(written);
     painter.setPen(
         palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
-    painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, text());
+    painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, Shown());
+  }
+
+ private:
+  QString Shown() const {
+    return fontMetrics().elidedText(text(), Qt::ElideRight, width(), Qt::TextShowMnemonic);
   }
 };
-
-// Keeps the cursor where it is while a rule rewrites the text around it.
-void DrawText(QLineEdit* edit, const TextField& field) {
-  const QString text = ToQt(field.text());
-  if (edit->text() == text) return;
-  const bool all = edit->hasSelectedText() && edit->selectedText() == edit->text();
-  const int cursor = edit->cursorPosition();
-  edit->setText(text);
-  if (all && edit->hasFocus()) {
-    edit->selectAll();
-  } else {
-    edit->setCursorPosition(edit->hasFocus() ? std::min<int>(cursor, static_cast<int>(text.size())) : 0);
-  }
-}
 
 int LengthLimit(const TextField& field) { return field.max_length() > 0 ? field.max_length() : 32767; }
 
@@ -96,32 +111,40 @@ void DrawDropDown(QComboBox* combo, const DropDownList& list) {
   if (edit == nullptr) {
     combo->setCurrentIndex(entry);
     combo->setPlaceholderText(text);
-    return;
-  }
-  const int cursor = edit->cursorPosition();
-  const QString marked = edit->selectedText();
-  if (entry != combo->currentIndex()) combo->setCurrentIndex(entry);
-  edit->setText(text);
-  if (!edit->hasFocus() && !combo->hasFocus()) {
-    edit->setCursorPosition(0);
-  } else if (!marked.isEmpty() && marked == text) {
-    edit->selectAll();
+  } else if (entry == combo->currentIndex()) {
+    DrawLine(combo, edit, list);
   } else {
-    edit->setCursorPosition(std::min<int>(cursor, static_cast<int>(text.size())));
+    DrawLine(combo, edit, list, [combo, entry] { combo->setCurrentIndex(entry); });
   }
+}
+
+// A memo's text as it was put in, down to its blanks that keep words together.
+QString TextOf(const QPlainTextEdit& memo) {
+  return memo.document()
+      ->toRawText()
+      .replace(QChar::ParagraphSeparator, '\n')
+      .replace(QChar::LineSeparator, '\n');
 }
 
 }  // namespace
 
-QLineEdit* MakeLineEdit(Form& form, TextField& field) {
+QLineEdit* MakeLineEdit(Form& form, TextField& field, bool mirror) {
   auto edit = std::make_unique<QLineEdit>();
   edit->setMaxLength(LengthLimit(field));
   edit->setTextMargins(3, 0, 3, 0);
   edit->setReadOnly(field.read_only());
   QLineEdit* made = edit.release();
-  form.Bind(field, made, [made, &field](Aspect aspect) {
-    if (aspect == Aspect::kText) DrawText(made, field);
+  KeepOneLine(made);
+  Binding& binding = form.Bind(field, made, [made, &field](Aspect aspect) {
+    if (aspect == Aspect::kText) DrawLine(made, made, field);
   });
+  if (mirror) {
+    binding.OnEnabled([made, &field](bool enabled) {
+      made->setEnabled(true);
+      made->setReadOnly(!enabled || field.read_only());
+      made->setFocusPolicy(enabled ? Qt::StrongFocus : Qt::ClickFocus);
+    });
+  }
   QObject::connect(made, &QLineEdit::textEdited, &form, [&form, &field](const QString& text) {
     form.Act(field, [&](Control&) { field.UserType(FromQt(text)); });
   });
@@ -142,7 +165,7 @@ QPlainTextEdit* MakeMemo(Form& form, TextField& field, char line_mark) {
   form.Bind(field, made, [made, shown](Aspect aspect) {
     if (aspect != Aspect::kText) return;
     const QString text = shown();
-    if (made->toPlainText() == text) return;
+    if (TextOf(*made) == text) return;
     const QSignalBlocker quiet(made);
     const int cursor = made->textCursor().position();
     made->setPlainText(text);
@@ -152,8 +175,9 @@ QPlainTextEdit* MakeMemo(Form& form, TextField& field, char line_mark) {
     made->setTextCursor(at);
   });
   QObject::connect(made, &QPlainTextEdit::textChanged, &form, [&form, &field, made, shown] {
-    if (field.read_only() || made->toPlainText() == shown()) return;
-    form.Act(field, [&](Control&) { field.UserType(LinesFromQt(made->toPlainText())); });
+    const QString text = TextOf(*made);
+    if (field.read_only() || text == shown()) return;
+    form.Act(field, [&](Control&) { field.UserType(LinesFromQt(text)); });
   });
   return made;
 }
@@ -170,6 +194,7 @@ QComboBox* MakeDropDown(Form& form, DropDownList& list) {
     made->setCompleter(nullptr);
     // Otherwise leaving the field counts as picking an entry of the same text.
     made->lineEdit()->disconnect(made);
+    KeepOneLine(made->lineEdit());
     made->lineEdit()->setTextMargins(3, 0, 3, 0);
     made->lineEdit()->setMaxLength(LengthLimit(list));
     QObject::connect(made->lineEdit(), &QLineEdit::textEdited, &form, [&form, &list](const QString& text) {
@@ -187,19 +212,19 @@ QComboBox* MakeDropDown(Form& form, DropDownList& list) {
 }
 
 QWidget* MakeTickBox(Form& form, TickBox& box) {
-  const auto* option = dynamic_cast<const OptionButton*>(&box);
+  const auto* option = As<OptionButton>(box);
   QAbstractButton* made = nullptr;
   if (option != nullptr) {
-    made = std::make_unique<QRadioButton>().release();
+    made = Make<QRadioButton>();
     const QString name = QString("options %1").arg(option->group());
     auto* group = form.findChild<QButtonGroup*>(name);
     if (group == nullptr) {
-      group = std::make_unique<QButtonGroup>(&form).release();
+      group = Make<QButtonGroup>(&form);
       group->setObjectName(name);
     }
     group->addButton(made);
   } else {
-    made = std::make_unique<QCheckBox>().release();
+    made = Make<QCheckBox>();
   }
   form.Bind(box, made, [made, &box](Aspect aspect) {
     if (aspect == Aspect::kCaption) made->setText(ToQt(box.caption()));
@@ -209,13 +234,17 @@ QWidget* MakeTickBox(Form& form, TickBox& box) {
     made->setChecked(box.on());
     if (group != nullptr) group->setExclusive(true);
   });
-  QObject::connect(made, &QAbstractButton::clicked, &form,
-                   [&form, &box](bool on) { form.Act(box, [&](Control&) { box.UserSet(on); }); });
+  QObject::connect(made, &QAbstractButton::clicked, &form, [&form, &box](bool on) {
+    form.Act(box, [&](Control& control) {
+      if (auto* chosen = As<OptionButton>(control)) return chosen->UserClick();
+      box.UserSet(on);
+    });
+  });
   return made;
 }
 
 QWidget* MakeButton(Form& form, Button& button, bool strong) {
-  QPushButton* made = std::make_unique<PlainButton>().release();
+  QPushButton* made = Make<PlainButton>();
   if (strong) {
     QFont font = made->font();
     font.setBold(true);
@@ -227,7 +256,7 @@ QWidget* MakeButton(Form& form, Button& button, bool strong) {
   QObject::connect(made, &QPushButton::clicked, &form,
                    [&form, &button] { form.Act(button, [&](Control&) { button.UserPress(); }); });
   if (const int key = FunctionKeyOf(button.caption()); key != 0) {
-    auto* shortcut = std::make_unique<QShortcut>(QKeySequence(Qt::Key_F1 + key - 1), form.window()).release();
+    auto* shortcut = Make<QShortcut>(QKeySequence(Qt::Key_F1 + key - 1), form.window());
     QObject::connect(shortcut, &QShortcut::activated, &form, [&form, &button] {
       if (button.shown()) form.Act(button, [&](Control&) { button.UserPress(); });
     });
@@ -237,7 +266,7 @@ QWidget* MakeButton(Form& form, Button& button, bool strong) {
 
 QWidget* MakeLabel(Form& form, Label& label) {
   if (label.clickable()) {
-    QPushButton* made = std::make_unique<NameButton>().release();
+    QPushButton* made = Make<NameButton>();
     form.Bind(label, made, [made, &label](Aspect aspect) {
       if (aspect == Aspect::kCaption) made->setText(ToQt(label.caption()));
     });
@@ -245,11 +274,28 @@ QWidget* MakeLabel(Form& form, Label& label) {
                      [&form, &label] { form.Act(label, [&](Control&) { label.UserClick(); }); });
     return made;
   }
-  auto* made = std::make_unique<QLabel>().release();
+  auto* made = Make<QLabel>();
   made->setTextFormat(Qt::PlainText);
   form.Bind(label, made, [made, &label](Aspect aspect) {
     if (aspect == Aspect::kCaption) made->setText(LinesToQt(label.caption()));
   });
+  return made;
+}
+
+QWidget* MakeCalendar(Form& form, Calendar& calendar) {
+  auto* made = Make<QCalendarWidget>();
+  made->setGridVisible(false);
+  form.Bind(calendar, made, [made, &calendar](Aspect aspect) {
+    if (aspect != Aspect::kSelection) return;
+    const Day day = calendar.day();
+    const QDate shown(YearOf(day), MonthOf(day), DayOfMonth(day));
+    if (made->selectedDate() != shown) made->setSelectedDate(shown);
+  });
+  const auto chosen = [&form, &calendar](QDate date) {
+    form.Act(calendar, [&](Control&) { calendar.UserClick(MakeDay(date.year(), date.month(), date.day())); });
+  };
+  QObject::connect(made, &QCalendarWidget::clicked, &form, chosen);
+  QObject::connect(made, &QCalendarWidget::activated, &form, chosen);
   return made;
 }
 
@@ -264,4 +310,4 @@ QAction* BindAction(Form& form, Button& button, QAction* action) {
 
 void WriteQuietly(QWidget* label) { label->setForegroundRole(QPalette::PlaceholderText); }
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

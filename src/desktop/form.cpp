@@ -5,9 +5,12 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QWidget>
+#include <algorithm>
 #include <array>
 
-namespace tarvane {
+#include "screen/kinds.h"
+
+namespace tarvane::desktop {
 namespace {
 
 constexpr std::array kAspects = {Aspect::kEntries, Aspect::kRows,    Aspect::kText,    Aspect::kState,
@@ -15,6 +18,21 @@ constexpr std::array kAspects = {Aspect::kEntries, Aspect::kRows,    Aspect::kTe
 constexpr unsigned kAll = (1U << kAspects.size()) - 1;
 
 unsigned Bit(Aspect aspect) { return 1U << static_cast<unsigned>(aspect); }
+
+constexpr char kShowsToCome[] = "shows_to_come";  // of the application
+constexpr char kForm[] = "form";                  // of a window
+
+// With its window, or back from a menu: the worker goes on where she was.
+bool CameBack(const QEvent* event) {
+  switch (static_cast<const QFocusEvent*>(event)->reason()) {
+    case Qt::ActiveWindowFocusReason:
+    case Qt::PopupFocusReason:
+    case Qt::MenuBarFocusReason:
+      return true;
+    default:
+      return false;
+  }
+}
 
 }  // namespace
 
@@ -26,11 +44,32 @@ Binding::Binding(Form& form, Control& control, QObject* widget, Draw draw)
 Binding::~Binding() { control_->Unwatch(watch_); }
 
 void Binding::ShowOrHide() {
+  const bool seen = Form::IsSeen(*control_);
   if (auto* widget = qobject_cast<QWidget*>(widget_)) {
-    widget->setVisible(control_->shown());
+    widget->setVisible(seen);
   } else if (auto* action = qobject_cast<QAction*>(widget_)) {
-    action->setVisible(control_->shown());
+    action->setVisible(seen);
   }
+}
+
+void Binding::EnableOrDisable() {
+  if (enable_) return enable_(control_->enabled());
+  if (auto* widget = qobject_cast<QWidget*>(widget_)) widget->setEnabled(control_->enabled());
+  if (auto* action = qobject_cast<QAction*>(widget_)) action->setEnabled(control_->enabled());
+}
+
+void Binding::OnEnabled(std::function<void(bool)> enable) {
+  enable_ = std::move(enable);
+  enable_(control_->enabled());
+}
+
+void Binding::SetTip() {
+  QString tip = QString::fromStdString(control_->tip());
+  if (control_->to_come()) {
+    if (tip.isEmpty()) tip = widget_->property("toolTip").toString();
+    tip += tip.isEmpty() ? "Still to come" : "\nStill to come";
+  }
+  if (!tip.isEmpty()) widget_->setProperty("toolTip", tip);
 }
 
 void Binding::Refresh() {
@@ -40,8 +79,7 @@ void Binding::Refresh() {
     if (aspect == Aspect::kVisible) {
       ShowOrHide();
     } else if (aspect == Aspect::kEnabled) {
-      if (auto* widget = qobject_cast<QWidget*>(widget_)) widget->setEnabled(control_->enabled());
-      if (auto* action = qobject_cast<QAction*>(widget_)) action->setEnabled(control_->enabled());
+      EnableOrDisable();
     } else if (draw_) {
       draw_(aspect);
     }
@@ -50,13 +88,14 @@ void Binding::Refresh() {
 
 Form::Form(Screen& screen, QWidget* window) : screen_(&screen), window_(window) {
   for (Control* control : screen.controls()) {
-    if (dynamic_cast<Panel*>(control) == nullptr) continue;
+    if (As<Panel>(*control) == nullptr) continue;
     panel_watches_.emplace_back(control, control->Watch([this](Aspect) {
       panels_changed_ = true;
       Post();
     }));
   }
   window->setWindowTitle(QString::fromStdString(screen.title()));
+  window->setProperty(kForm, QVariant::fromValue<QObject*>(this));
   screen.SetWatcher(
       {.title_changed = [this] { window_->setWindowTitle(QString::fromStdString(screen_->title())); },
        .closed =
@@ -74,6 +113,7 @@ Form::~Form() { Detach(); }
 
 void Form::Detach() {
   if (std::exchange(detached_, true)) return;
+  window_->setProperty(kForm, {});
   screen_->SetWatcher({});
   for (const auto& [panel, watch] : panel_watches_) panel->Unwatch(watch);
   by_widget_.clear();
@@ -82,16 +122,29 @@ void Form::Detach() {
   bindings_.clear();
 }
 
+bool Form::shows_to_come() { return QCoreApplication::instance()->property(kShowsToCome).toBool(); }
+
+void Form::SetShowsToCome(bool shows) {
+  QCoreApplication::instance()->setProperty(kShowsToCome, shows);
+  for (const QWidget* window : QApplication::topLevelWidgets()) {
+    if (auto* form = static_cast<Form*>(window->property(kForm).value<QObject*>())) form->ToComeSwitched();
+  }
+}
+
+bool Form::IsSeen(const Control& control) {
+  return control.shown() && (!control.to_come() || shows_to_come());
+}
+
 Binding& Form::Bind(Control& control, QObject* widget, Binding::Draw draw) {
   Binding& binding =
       *bindings_.emplace_back(std::make_unique<Binding>(*this, control, widget, std::move(draw)));
   by_widget_[widget] = &binding;
   by_control_[&control] = &binding;
   widget->installEventFilter(this);
-  if (!control.tip().empty()) widget->setProperty("toolTip", QString::fromStdString(control.tip()));
+  binding.SetTip();
   binding.changed_ = kAll;
   // A new widget that is meant to be seen must not be shown before it has its place: it would be a window.
-  if (control.shown()) binding.changed_ &= ~Bit(Aspect::kVisible);
+  if (IsSeen(control)) binding.changed_ &= ~Bit(Aspect::kVisible);
   binding.Refresh();
   return binding;
 }
@@ -101,11 +154,14 @@ QObject* Form::WidgetOf(const Control& control) const {
   return found == by_control_.end() ? nullptr : found->second->widget();
 }
 
+const Control* Form::ControlOf(const QObject& widget) const {
+  const auto found = by_widget_.find(&widget);
+  return found == by_widget_.end() ? nullptr : &found->second->control();
+}
+
 void Form::ShowWith(QWidget* companion, std::vector<const Control*> controls) {
   companions_.push_back({companion, std::move(controls)});
-  bool any = false;
-  for (const Control* control : companions_.back().controls) any = any || control->shown();
-  if (!any) companion->hide();
+  if (!companions_.back().IsSeen()) companion->hide();
 }
 
 void Form::BuildAll() {
@@ -160,16 +216,15 @@ void Form::Flush() {
     const auto actions = std::exchange(actions_, {});
     for (const auto& [control, action] : actions) Act(*control, action);
   }
+  if (std::exchange(put_back_, false)) FollowFocusBack();
   if (std::exchange(focus_came_, false)) FollowQtFocus();
   while (!changed_.empty() && !detached_) {
     const std::vector<Binding*> changed = std::exchange(changed_, {});
     for (Binding* binding : changed) binding->Refresh();
   }
-  if (std::exchange(panels_changed_, false)) {
-    for (const auto& binding : bindings_) binding->ShowOrHide();
-    RefreshCompanions();
-  }
-  for (std::size_t at = 0; at < followers_.size(); ++at) followers_[at]();
+  if (std::exchange(panels_changed_, false)) ShowAndHide();
+  // One may add another.
+  for (std::size_t at = 0; at < followers_.size(); ++at) followers_[at]();  // NOLINT(modernize-loop-convert)
   FollowModelFocus();
 }
 
@@ -178,11 +233,20 @@ void Form::Follow(std::function<void()> action) {
   followers_.push_back(std::move(action));
 }
 
-void Form::RefreshCompanions() {
+bool Form::Companion::IsSeen() const {
+  return std::ranges::any_of(controls, [](const Control* control) { return Form::IsSeen(*control); });
+}
+
+// What follows the controls (menus, access keys) is drawn with the next flush.
+void Form::ToComeSwitched() {
+  ShowAndHide();
+  Post();
+}
+
+void Form::ShowAndHide() {
+  for (const auto& binding : bindings_) binding->ShowOrHide();
   for (const Companion& companion : companions_) {
-    bool any = false;
-    for (const Control* control : companion.controls) any = any || control->shown();
-    if (companion.widget) companion.widget->setVisible(any);
+    if (companion.widget) companion.widget->setVisible(companion.IsSeen());
   }
 }
 
@@ -208,14 +272,35 @@ Binding* Form::BindingOf(QObject* object) const {
 void Form::FollowQtFocus() {
   Binding* binding = BindingOf(QApplication::focusWidget());
   // Between the parts of a panel the screen's focus stays where it is.
-  if (binding == nullptr || dynamic_cast<Panel*>(&binding->control()) != nullptr) return;
+  if (binding == nullptr || As<Panel>(binding->control()) != nullptr) return;
   Control& control = binding->control();
+  if (!control.enabled()) {
+    // It shows what another one leads, and can be read, no more.
+    if (screen_->focus() != nullptr) screen_->focus()->UserLeave();
+    return;
+  }
   if (screen_->focus() != &control) control.UserFocus();
   if (detached_) return;
   if (screen_->focus() == &control) wanted_focus_ = nullptr;
-  const auto* field = dynamic_cast<const TextField*>(&control);
-  if (field == nullptr || !field->select_all_on_focus()) return;
+  const auto* field = As<TextField>(control);
+  if (field == nullptr || !field->select_all_on_focus() || !may_select_) return;
   if (auto* edit = qobject_cast<QLineEdit*>(QApplication::focusWidget())) edit->selectAll();
+}
+
+void Form::PutFocusBack() {
+  put_back_ = true;
+  Post();
+}
+
+void Form::FollowFocusBack() {
+  if (screen_->focus() == nullptr || As<Button>(*screen_->focus()) == nullptr) return;
+  // The focus may not have come to the button's widget yet.
+  QWidget* former = focused_ == WidgetOf(*screen_->focus()) ? focused_before_ : focused_;
+  if (former == nullptr || !former->isVisible() || !former->isEnabled()) return;
+  wanted_focus_ = nullptr;
+  former->setFocus(Qt::OtherFocusReason);
+  focus_came_ = true;
+  may_select_ = false;
 }
 
 void Form::FollowModelFocus() {
@@ -247,7 +332,13 @@ bool Form::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::FocusIn:
       focus_came_ = true;
+      may_select_ = !CameBack(event);
+      if (focused_ != watched) focused_before_ = std::exchange(focused_, qobject_cast<QWidget*>(watched));
       Post();
+      return false;
+    case QEvent::FocusOut:
+      // Now the text is drawn as a rule has put it.
+      if (Binding* left = CameBack(event) ? nullptr : BindingOf(watched)) Changed(*left, Aspect::kText);
       return false;
     case QEvent::KeyPress: {
       const int key = static_cast<QKeyEvent*>(event)->key();
@@ -272,11 +363,11 @@ void GoOnFrom(QWidget* widget) {
 // boxes have no such rule and let the worker pass.
 bool Form::PressedEnter(Binding& binding, QWidget* widget) {
   if (widget == nullptr) return false;
-  if (dynamic_cast<TickBox*>(&binding.control()) != nullptr) {
+  if (As<TickBox>(binding.control()) != nullptr) {
     GoOnFrom(widget);
     return true;
   }
-  auto* field = dynamic_cast<TextField*>(&binding.control());
+  auto* field = As<TextField>(binding.control());
   if (field == nullptr || field->kind() == TextField::Kind::kMemo) return false;
   const QPointer<QWidget> edit = widget;
   Act(*field, [field](Control&) { field->UserEnterKey(); });
@@ -286,4 +377,4 @@ bool Form::PressedEnter(Binding& binding, QWidget* widget) {
   return true;
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

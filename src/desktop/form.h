@@ -12,7 +12,7 @@
 
 class QWidget;
 
-namespace tarvane {
+namespace tarvane::desktop {
 
 class Form;
 
@@ -29,15 +29,21 @@ class Binding {
   Control& control() const { return *control_; }
   QObject* widget() const { return widget_; }
 
+  // What shows that the control is off, in place of a disabled widget. Runs now and after each change.
+  void OnEnabled(std::function<void(bool enabled)> enable);
+
  private:
   friend class Form;
   void Refresh();
   void ShowOrHide();
+  void EnableOrDisable();
+  void SetTip();
 
   Form* form_;
   Control* control_;
   QObject* widget_;
   Draw draw_;
+  std::function<void(bool)> enable_;
   int watch_;
   unsigned changed_ = 0;  // aspects, a bit each
 };
@@ -52,10 +58,19 @@ class Form : public QObject {
   Screen& screen() const { return *screen_; }
   QWidget* window() const { return window_; }
 
+  // Whether what is still to come is seen at all; at first it isn't. Holds for the windows that are open and
+  // for those to come.
+  static void SetShowsToCome(bool shows);
+  static bool shows_to_come();
+  // Shown by its screen, and not hidden because it is still to come.
+  static bool IsSeen(const Control& control);
+
   // `widget` is a QWidget or a QAction.
   Binding& Bind(Control& control, QObject* widget, Binding::Draw draw);
   QObject* WidgetOf(const Control& control) const;
-  // Shown while one of the controls is: their caption, their unit.
+  // Null where the widget stands for none.
+  const Control* ControlOf(const QObject& widget) const;
+  // Shown while one of the controls is seen: their caption, their unit.
   void ShowWith(QWidget* companion, std::vector<const Control*> controls);
 
   // Runs now, and again whenever what has changed is drawn.
@@ -75,6 +90,10 @@ class Form : public QObject {
   // The focus of the screen, or the first field, gets the keyboard as the window comes up.
   void TakeFirstFocus();
 
+  // The worker said no to what a button was to do: the focus goes back to where it was before the button.
+  // Nothing where no button has it.
+  void PutFocusBack();
+
   // Widths and heights that follow the size of the text; `apply` runs now and after each change of it.
   void AddSizer(std::function<void()> apply);
   void Resize();
@@ -93,14 +112,17 @@ class Form : public QObject {
   void Changed(Binding& binding, Aspect aspect);
   void Post();
   void FollowQtFocus();
+  void FollowFocusBack();
   void FollowModelFocus();
   bool PressedEnter(Binding& binding, QWidget* widget);
   Binding* BindingOf(QObject* object) const;
-  void RefreshCompanions();
+  void ToComeSwitched();
+  void ShowAndHide();
 
   struct Companion {
     QPointer<QWidget> widget;
     std::vector<const Control*> controls;
+    bool IsSeen() const;
   };
 
   Screen* screen_;
@@ -117,10 +139,14 @@ class Form : public QObject {
   std::vector<std::pair<Control*, std::function<void(Control&)>>> actions_;
   std::function<void()> on_closed_;
   Control* wanted_focus_ = nullptr;
+  QPointer<QWidget> focused_;  // the latest two
+  QPointer<QWidget> focused_before_;
+  bool put_back_ = false;
   bool focus_came_ = false;
+  bool may_select_ = false;  // the focus came by a key or a click, not with the window
   bool panels_changed_ = false;
   bool posted_ = false;
   bool detached_ = false;
 };
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

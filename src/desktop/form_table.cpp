@@ -3,26 +3,102 @@
 #include <algorithm>
 #include <array>
 
+#include "app/show.h"
 #include "desktop/forms/forms.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 namespace {
 
-constexpr std::array kForms = {
-    FormEntry{"Form1", BuildMainForm, true},
-    FormEntry{"frmSplash", BuildSplashForm, false},
-    FormEntry{"frmOptions", BuildOptionsForm, true},
-    FormEntry{"FrmListAdmin", BuildListAdminForm, true},
-    FormEntry{"FrmEnterSalesPerson", BuildEnterSalesPersonForm, false},
-    FormEntry{"FrmPreferences", BuildPreferencesForm, false},
-    FormEntry{"MainCWizard", BuildWizardForm, true},
+using app::MainScreen;
+using curtain_wizard::FrmPreferences;
+using curtain_wizard::MainCWizard;
+
+constexpr bool kPlaced = true;
+constexpr bool kCentred = false;
+
+template <typename Shown>
+void Show(MainScreen& main) {
+  app::ShowScreen<Shown>(main);
+}
+
+void ShowPreferences(MainScreen& main) {
+  auto wizard = app::MakeScreen<MainCWizard>(main);
+  FrmPreferences preferences(main.host(), main.shop(), wizard);
+  main.ShowModal(preferences);
+}
+
+// The first curtain of the first room.
+void ShowItem(MainScreen& main) {
+  main.RoomItemGrid[0].Select(1);
+  main.EditItem();
+}
+
+bool Waits(const DataSource& source) { return source.rows().IsOpen() && source.rows().IsEditing(); }
+
+// A job that isn't open can't have been typed into.
+std::string Unsaved(MainScreen& main) {
+  if (!main.in_job_mode() || !Waits(main.Data1)) return {};
+  return "the job of " + (main.Name.empty() ? "a customer without a name" : main.Name.text());
+}
+void Save(MainScreen& main) { main.SaveRecord(); }
+
+std::string Unsaved(tools::frmOptions& options) {
+  return Waits(options.Data1) ? "the preferences of the shop" : "";
+}
+void Save(tools::frmOptions& options) { options.cmdOK.Press(); }
+
+template <typename Shown>
+constexpr bool kKeepsRows = requires(Shown& screen) {
+  Unsaved(screen);
+};
+
+template <typename Shown>
+std::string UnsavedIn(Screen& screen) {
+  return Unsaved(dynamic_cast<Shown&>(screen));
+}
+
+template <typename Shown>
+void SaveIn(Screen& screen) {
+  Save(dynamic_cast<Shown&>(screen));
+}
+
+template <typename Shown, void (*build)(Form&, Shown&)>
+constexpr FormEntry Row(std::string_view picture, bool remembers_place,
+                        void (*show)(MainScreen&) = Show<Shown>) {
+  FormEntry entry = {
+      .name = Shown::kName,
+      .shows = [](const Screen& screen) { return dynamic_cast<const Shown*>(&screen) != nullptr; },
+      .picture = picture,
+      .remembers_place = remembers_place,
+      .build = [](Form& form) { build(form, dynamic_cast<Shown&>(form.screen())); },
+      .show = show,
+      .unsaved = nullptr,
+      .save = nullptr};
+  if constexpr (kKeepsRows<Shown>) {
+    entry.unsaved = UnsavedIn<Shown>;
+    entry.save = SaveIn<Shown>;
+  }
+  return entry;
+}
+
+const std::array kForms = {
+    Row<MainScreen, BuildMainForm>("main", kPlaced, nullptr),
+    Row<app::frmSplash, BuildSplashForm>("splash", kCentred),
+    Row<tools::frmOptions, BuildOptionsForm>("settings", kPlaced),
+    Row<tools::FrmListAdmin, BuildListAdminForm>("option-lists", kPlaced),
+    Row<tools::FrmEnterSalesPerson, BuildEnterSalesPersonForm>("sales-person", kCentred),
+    Row<FrmPreferences, BuildPreferencesForm>("preferences", kCentred, ShowPreferences),
+    Row<MainCWizard, BuildWizardForm>("wizard", kPlaced, ShowItem),
 };
 
 }  // namespace
 
-const FormEntry* FindForm(std::string_view screen) {
-  const auto found = std::ranges::find(kForms, screen, &FormEntry::screen);
+std::span<const FormEntry> Forms() { return kForms; }
+
+const FormEntry* FindForm(const Screen& screen) {
+  const auto found =
+      std::ranges::find_if(kForms, [&](const FormEntry& entry) { return entry.shows(screen); });
   return found == kForms.end() ? nullptr : &*found;
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

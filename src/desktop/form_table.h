@@ -1,19 +1,40 @@
 #pragma once
 
+#include <span>
+#include <string>
 #include <string_view>
 
 namespace tarvane {
+class Screen;
+namespace app {
+class MainScreen;
+}
+}  // namespace tarvane
+
+namespace tarvane::desktop {
 
 class Form;
 
-// The form of a screen: what fills its window.
+// A screen that has a window: what fills it, and how one comes to see it.
 struct FormEntry {
-  std::string_view screen;
-  void (*build)(Form& form);  // the form's screen is of that name, and so of its class
-  bool remembers_place;       // its window comes up where and as large as it was left
+  std::string_view name;                // kName of the screen's class
+  bool (*shows)(const Screen& screen);  // whether the screen is of that class
+  std::string_view picture;             // what its screenshots are called
+  bool remembers_place;                 // its window comes up where and as large as it was left
+  void (*build)(Form& form);            // only for a form whose screen is of that class
+  // Shows one over the main screen, on the sample shop, as the worker would come to it; nullptr for the main
+  // screen itself.
+  void (*show)(app::MainScreen& main);
+  // What the worker typed that isn't stored: its name ("the job of Mrs Blake"), "" where nothing waits. It is
+  // asked for before the window closes. Null for screens where nothing ever waits.
+  std::string (*unsaved)(Screen& screen);
+  void (*save)(Screen& screen);  // faults where it can't; with `unsaved` only
 };
 
-// Null where a screen has no form.
-const FormEntry* FindForm(std::string_view screen);
+// All of them. Tests and screenshots walk along this table.
+std::span<const FormEntry> Forms();
 
-}  // namespace tarvane
+// Null where the screen's class has no form.
+const FormEntry* FindForm(const Screen& screen);
+
+}  // namespace tarvane::desktop

@@ -9,7 +9,9 @@
 #include <array>
 #include <memory>
 
-namespace tarvane {
+#include "desktop/make.h"
+
+namespace tarvane::desktop {
 namespace {
 
 // What an icon is drawn with, on a square of 24 units: lines in the text's colour, one part in the accent.
@@ -168,6 +170,14 @@ constexpr std::array<std::pair<std::string_view, DrawIcon>, 16> kIcons = {{
     {"Next", Next},
 }};
 
+// The curtain in white on a coloured ground.
+void WindowPicture(const Pen& pen) {
+  pen.painter.fillPath(Box(0, 0, 24, 24, 4), QColor(0xff1f5f99));
+  pen.painter.translate(2.4, 2.4);
+  pen.painter.scale(0.8, 0.8);
+  Curtain({pen.painter, Qt::white, Qt::white});
+}
+
 class DrawnIcon : public QIconEngine {
  public:
   explicit DrawnIcon(DrawIcon draw) : draw_(draw) {}
@@ -195,7 +205,10 @@ class DrawnIcon : public QIconEngine {
     return picture;
   }
 
-  QIconEngine* clone() const override { return std::make_unique<DrawnIcon>(draw_).release(); }
+  // What a window hands to the desktop: few, as each is drawn while the window is waited for.
+  QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override { return {{16, 16}, {48, 48}}; }
+
+  QIconEngine* clone() const override { return Make<DrawnIcon>(draw_); }
 
  private:
   DrawIcon draw_;
@@ -205,9 +218,11 @@ class DrawnIcon : public QIconEngine {
 
 QIcon MakeIcon(std::string_view name) {
   for (const auto& [key, draw] : kIcons) {
-    if (key == name) return QIcon(std::make_unique<DrawnIcon>(draw).release());
+    if (key == name) return QIcon(Make<DrawnIcon>(draw));
   }
   return {};
 }
 
-}  // namespace tarvane
+QIcon WindowIcon() { return QIcon(Make<DrawnIcon>(WindowPicture)); }
+
+}  // namespace tarvane::desktop

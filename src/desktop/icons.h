@@ -3,10 +3,13 @@
 #include <QIcon>
 #include <string_view>
 
-namespace tarvane {
+namespace tarvane::desktop {
 
 // An icon drawn by code in the colours of the palette. Names are those of the toolbar's buttons, "New
 // Record", "Payment" and so on, and "Previous" and "Next"; any other name gives an empty icon.
 QIcon MakeIcon(std::string_view name);
 
-}  // namespace tarvane
+// The program's own, in colours that stand out on any ground.
+QIcon WindowIcon();
+
+}  // namespace tarvane::desktop

@@ -1,24 +1,25 @@
 #include "desktop/list_views.h"
 
-#include <QAbstractListModel>
 #include <QAbstractTableModel>
 #include <QApplication>
+#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QListView>
 #include <QMenu>
 #include <QPainter>
 #include <QStyledItemDelegate>
 #include <QTableView>
 #include <algorithm>
-#include <functional>
 #include <limits>
 
+#include "desktop/make.h"
+#include "desktop/picking_view.h"
+#include "desktop/row_table.h"
 #include "desktop/text.h"
 #include "desktop/theme.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 namespace {
 
 // Cells of a grid; its heading row is the table's heading.
@@ -108,8 +109,8 @@ class LineDelegate : public QStyledItemDelegate {
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     const bool selected = option.state & QStyle::State_Selected;
-    const bool focus = option.state & (QStyle::State_HasFocus | QStyle::State_Active);
-    const auto group = focus ? QPalette::Active : QPalette::Inactive;
+    // A view's items are active while it has the focus.
+    const auto group = option.state & QStyle::State_Active ? QPalette::Active : QPalette::Inactive;
     if (selected) {
       painter->fillRect(option.rect, option.palette.brush(group, QPalette::Highlight));
     } else if (option.features & QStyleOptionViewItem::Alternate) {
@@ -131,36 +132,34 @@ class LineDelegate : public QStyledItemDelegate {
   }
 };
 
-// What the worker does in a list is told when it is done: a row once the mouse is let go or the key has
-// moved, and an opening by double click or Enter. -1 is the empty space below the rows.
-template <typename View>
-class PickingView : public View {
+// Cells go to the clipboard as they are shown.
+class GridTable : public PickingView<RowTable> {
  public:
-  std::function<void(int)> picked;
-  std::function<void(int)> opened;
+  std::function<void()> insert;  // what the keys do; may be empty
+  std::function<void()> remove;
 
  protected:
-  void mouseReleaseEvent(QMouseEvent* event) override {
-    View::mouseReleaseEvent(event);
-    const QModelIndex at = this->indexAt(event->position().toPoint());
-    const bool after_opening = std::exchange(opened_by_mouse_, false);
-    if (event->button() == Qt::LeftButton && at.isValid() && !after_opening) picked(at.row());
+  void contextMenuEvent(QContextMenuEvent* event) override {
+    const bool by_key = event->reason() == QContextMenuEvent::Keyboard;
+    const QModelIndex at = by_key ? currentIndex() : indexAt(event->pos());
+    if (!at.isValid()) return;
+    QMenu menu;
+    QAction* cell = menu.addAction("Copy &Cell");
+    QAction* row = menu.addAction("Copy &Row");
+    const QPoint place = by_key ? viewport()->mapToGlobal(visualRect(at).center()) : event->globalPos();
+    const QAction* chosen = menu.exec(place);
+    if (chosen == cell) QApplication::clipboard()->setText(at.data().toString());
+    if (chosen == row) QApplication::clipboard()->setText(RowText(at.row()));
   }
-  void mouseDoubleClickEvent(QMouseEvent* event) override {
-    opened_by_mouse_ = true;
-    opened(this->indexAt(event->position().toPoint()).row());
-  }
-
- private:
-  bool opened_by_mouse_ = false;
-};
-
-class GridTable : public PickingView<QTableView> {
- protected:
   void keyPressEvent(QKeyEvent* event) override {
     const int before = currentIndex().row();
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
       opened(before);
+      return;
+    }
+    const auto& action = event->key() == Qt::Key_Insert ? insert : remove;
+    if ((event->key() == Qt::Key_Insert || event->key() == Qt::Key_Delete) && action) {
+      action();
       return;
     }
     if ((event->key() == Qt::Key_Home || event->key() == Qt::Key_End) && model()->rowCount() > 0) {
@@ -171,7 +170,27 @@ class GridTable : public PickingView<QTableView> {
     }
     if (currentIndex().row() != before) picked(currentIndex().row());
   }
+
+ private:
+  // The columns that are shown, in their order, with tabs between them.
+  QString RowText(int row) const {
+    QStringList cells;
+    for (int place = 0; place < horizontalHeader()->count(); ++place) {
+      const int column = horizontalHeader()->logicalIndex(place);
+      if (!isColumnHidden(column)) cells += model()->index(row, column).data().toString();
+    }
+    return cells.join('\t');
+  }
 };
+
+std::function<void()> Pressing(Form& form, Grid& grid, Button* button) {
+  if (button == nullptr) return {};
+  return [&form, &grid, button] {
+    form.ActLater(grid, [button](Control& control) {
+      if (button->shown()) control.screen().Guard([button] { button->Press(); });
+    });
+  };
+}
 
 // The grid's widths are meant for a text of 8.25 points.
 int WidthOf(const Grid& grid, const GridModel& model, int column) {
@@ -244,9 +263,8 @@ void DressTable(GridTable* table) {
   table->setTabKeyNavigation(false);
   table->setAlternatingRowColors(true);
   table->setShowGrid(false);
-  table->setItemDelegate(std::make_unique<LineDelegate>(table).release());
+  table->setItemDelegate(Make<LineDelegate>(table));
   table->setWordWrap(false);
-  table->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   table->verticalHeader()->hide();
   table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   table->horizontalHeader()->setHighlightSections(false);
@@ -260,45 +278,11 @@ void DrawSelection(QTableView* table, const Grid& grid) {
   table->setCurrentIndex(row < 0 ? QModelIndex() : table->model()->index(row, column));
 }
 
-// Entries of a list, drawn where they stand.
-class EntryModel : public QAbstractListModel {
- public:
-  EntryModel(const ListBox& list, QObject* parent) : QAbstractListModel(parent), list_(&list) { Reset(); }
-  void Reset() {
-    beginResetModel();
-    rows_ = static_cast<int>(list_->entries().size());
-    endResetModel();
-  }
-  int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows_; }
-  QVariant data(const QModelIndex& index, int role) const override {
-    const auto at = static_cast<std::size_t>(index.row());
-    if (role != Qt::DisplayRole || at >= list_->entries().size()) return {};
-    return ToQt(list_->entries()[at]);
-  }
-
- private:
-  const ListBox* list_;
-  int rows_ = 0;
-};
-
-class EntryList : public PickingView<QListView> {
- protected:
-  void keyPressEvent(QKeyEvent* event) override {
-    const int before = currentIndex().row();
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-      opened(before);
-      return;
-    }
-    QListView::keyPressEvent(event);
-    if (currentIndex().row() != before) picked(currentIndex().row());
-  }
-};
-
 }  // namespace
 
 QTableView* MakeTable(Form& form, Grid& grid, const TableLook& look) {
-  auto* table = std::make_unique<GridTable>().release();
-  auto* model = std::make_unique<GridModel>(grid, look, table).release();
+  auto* table = Make<GridTable>();
+  auto* model = Make<GridModel>(grid, look, table);
   DressTable(table);
   SetRowHeight(table);
   table->setModel(model);
@@ -315,6 +299,8 @@ QTableView* MakeTable(Form& form, Grid& grid, const TableLook& look) {
     SetRowHeight(table);
     MeasureColumns(table, *model, grid);
   });
+  table->insert = Pressing(form, grid, look.insert);
+  table->remove = Pressing(form, grid, look.remove);
   table->picked = [&form, &grid](int row) {
     form.ActLater(grid, [&grid, row](Control&) { grid.UserSelectRow(row + 1); });
   };
@@ -324,24 +310,4 @@ QTableView* MakeTable(Form& form, Grid& grid, const TableLook& look) {
   return table;
 }
 
-QWidget* MakeListBox(Form& form, ListBox& list) {
-  auto* view = std::make_unique<EntryList>().release();
-  auto* model = std::make_unique<EntryModel>(list, view).release();
-  view->setModel(model);
-  view->setUniformItemSizes(true);
-  view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  form.Bind(list, view, [view, model, &list](Aspect aspect) {
-    if (aspect == Aspect::kEntries) model->Reset();
-    if (aspect != Aspect::kEntries && aspect != Aspect::kSelection) return;
-    view->setCurrentIndex(list.selected() < 0 ? QModelIndex() : model->index(list.selected()));
-  });
-  view->picked = [&form, &list](int entry) {
-    form.ActLater(list, [&list, entry](Control&) { list.UserPick(entry); });
-  };
-  view->opened = [&form, &list](int entry) {
-    form.ActLater(list, [&list, entry](Control&) { list.UserOpen(entry); });
-  };
-  return view;
-}
-
-}  // namespace tarvane
+}  // namespace tarvane::desktop

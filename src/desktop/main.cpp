@@ -2,4 +2,4 @@
 
 #include "desktop/program.h"
 
-int main(int argc, char** argv) { return tarvane::RunProgram(argc, argv); }
+int main(int argc, char** argv) { return tarvane::desktop::RunProgram(argc, argv); }

@@ -9,9 +9,9 @@
 #include <algorithm>
 
 #include "desktop/text.h"
-#include "text_number/fault.h"
+#include "text/fault.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 namespace {
 
 constexpr double kLargestPoints = 11;
@@ -73,4 +73,4 @@ void AskForPrinter(QPrinter& printer, QWidget* parent) {
   QPageSetupDialog(&printer, parent).exec();
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

@@ -2,14 +2,18 @@
 #include <QBoxLayout>
 #include <QKeyEvent>
 #include <QScrollArea>
+#include <QShortcut>
 #include <QStackedLayout>
 #include <QTabBar>
+#include <algorithm>
 
 #include "desktop/builders.h"
+#include "desktop/make.h"
+#include "desktop/readers.h"
 #include "desktop/text.h"
 #include "desktop/theme.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 namespace {
 
 // Tabs that ask before they move: the screen decides whether another one is selected.
@@ -35,13 +39,14 @@ class AskingTabBar : public QTabBar {
 }  // namespace
 
 Piece Builder::Tabs(TabStrip& tabs, std::function<void(int)> show) {
-  auto* bar = std::make_unique<AskingTabBar>().release();
+  auto* bar = Make<AskingTabBar>();
   bar->setDocumentMode(true);
   bar->setDrawBase(true);
   bar->setExpanding(false);
   bar->setElideMode(Qt::ElideNone);
   bar->setUsesScrollButtons(true);
   bar->setFocusPolicy(Qt::TabFocus);
+  bar->setAccessibleName("Pages");
   for (const std::string& caption : tabs.captions()) bar->addTab(ToQt(caption).trimmed().replace("&", "&&"));
   Form& form = *form_;
   bar->asked = [&form, &tabs](int tab) {
@@ -50,6 +55,13 @@ Piece Builder::Tabs(TabStrip& tabs, std::function<void(int)> show) {
       tabs.UserSelect(tab);
     });
   };
+  // A reader's press moves the bar without asking; the screen is asked now.
+  QObject::connect(bar, &QTabBar::currentChanged, &form, [bar, &tabs](int tab) {
+    if (tab == tabs.selected()) return;
+    const QSignalBlocker quiet(bar);
+    bar->setCurrentIndex(tabs.selected());
+    bar->asked(tab);
+  });
   form.Bind(tabs, bar, [bar, &tabs, show = std::move(show)](Aspect aspect) {
     if (aspect != Aspect::kSelection) return;
     bar->setCurrentIndex(tabs.selected());
@@ -58,19 +70,60 @@ Piece Builder::Tabs(TabStrip& tabs, std::function<void(int)> show) {
   return {bar};
 }
 
-Piece Builder::Pages(TabStrip& tabs, std::vector<PageBuilder> pages, const Piece& beside) {
-  auto* holder = std::make_unique<QWidget>().release();
-  auto* stack = std::make_unique<QStackedLayout>(holder).release();
-  for (std::size_t page = 0; page < pages.size(); ++page) {
-    stack->addWidget(std::make_unique<QWidget>().release());
+namespace {
+
+constexpr char kHasPageKeys[] = "has_page_keys";
+
+void AddPageKeys(Form& form, TabStrip& tabs, const QWidget* pages) {
+  // Tabs within a page leave the keys to those around them.
+  if (form.window()->property(kHasPageKeys).toBool()) return;
+  form.window()->setProperty(kHasPageKeys, true);
+  const int count = std::min(9, static_cast<int>(tabs.captions().size()));
+  for (int tab = 0; tab < count; ++tab) {
+    const QKeySequence keys(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + tab));
+    auto* shortcut = Make<QShortcut>(keys, form.window());
+    QObject::connect(shortcut, &QShortcut::activated, &form, [&form, &tabs, pages, tab] {
+      if (!pages->isVisible()) return;
+      form.Act(tabs, [&tabs, tab](Control& control) {
+        control.UserFocus();
+        tabs.UserSelect(tab);
+      });
+    });
   }
-  const auto build = [this_builder = *this, stack, pages = std::move(pages)](int page) mutable {
+}
+
+// What comes into a window that is shown already comes last for Tab, wherever it stands: it is to follow the
+// tabs.
+void PutAfter(QWidget* bar, const QWidget* page) {
+  std::vector<QWidget*> fields;
+  for (QWidget* each = bar->nextInFocusChain(); each != bar; each = each->nextInFocusChain()) {
+    const bool stops = each->focusPolicy() != Qt::NoFocus && each->focusProxy() == nullptr;
+    if (stops && page->isAncestorOf(each)) fields.push_back(each);
+  }
+  QWidget* before = bar;
+  for (QWidget* field : fields) QWidget::setTabOrder(std::exchange(before, field), field);
+}
+
+}  // namespace
+
+Piece Builder::Pages(TabStrip& tabs, std::vector<PageBuilder> pages, const Piece& beside) {
+  auto* holder = Make<QWidget>();
+  auto* stack = Make<QStackedLayout>(holder);
+  for (std::size_t page = 0; page < pages.size(); ++page) {
+    stack->addWidget(Make<QWidget>());
+  }
+  AddPageKeys(*form_, tabs, holder);
+  const auto tab_bar = std::make_shared<QWidget*>(nullptr);  // once there is one
+  const auto build = [this_builder = *this, &tabs, tab_bar, stack,
+                      pages = std::move(pages)](int page) mutable {
     if (page < 0 || page >= static_cast<int>(pages.size())) return;
     const PageBuilder make = std::exchange(pages[static_cast<std::size_t>(page)], nullptr);
     if (!make) return;
     const Piece content = make();
+    NameAll(content, ToQt(tabs.captions()[static_cast<std::size_t>(page)]).trimmed());
     stack->widget(page)->setLayout(this_builder.Column({content.Grow()}).layout);
     stack->widget(page)->layout()->setContentsMargins(0, 0, 0, 0);
+    if (*tab_bar != nullptr) PutAfter(*tab_bar, stack->widget(page));
   };
   const auto shared = std::make_shared<std::function<void(int)>>(build);
   form_->AddLater([shared, stack] {
@@ -80,9 +133,10 @@ Piece Builder::Pages(TabStrip& tabs, std::vector<PageBuilder> pages, const Piece
     (*shared)(page);
     stack->setCurrentIndex(page);
   });
+  *tab_bar = bar.widget;
   const Piece page{holder, nullptr, 3};
   const bool alone = beside.widget == nullptr && beside.layout == nullptr;
   return Column({bar, alone ? page : Row({page, beside}, 3).Grow()}, alone ? 0 : 1).Grow();
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

@@ -7,7 +7,7 @@
 
 #include "desktop/theme.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 
 // What the command line asks for.
 struct ProgramOptions {
@@ -25,4 +25,4 @@ ProgramOptions ParseOptions(const std::vector<std::string>& arguments);
 // The whole program; gives its exit code.
 int RunProgram(int argc, char** argv);
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

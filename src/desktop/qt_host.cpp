@@ -15,6 +15,7 @@
 #include <QPushButton>
 #include <QRandomGenerator>
 #include <QScreen>
+#include <QSessionManager>
 #include <QSettings>
 #include <QShortcut>
 #include <QStandardPaths>
@@ -24,13 +25,15 @@
 #include <array>
 #include <cstdlib>
 
+#include "desktop/access_keys.h"
 #include "desktop/form_table.h"
+#include "desktop/make.h"
 #include "desktop/page_printer.h"
 #include "desktop/text.h"
 #include "desktop/theme.h"
 #include "desktop/windows.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 namespace {
 
 constexpr std::array<std::pair<Icon, QMessageBox::Icon>, 5> kIcons = {{
@@ -78,7 +81,7 @@ QString PlaceKey(const Screen& screen) { return QString("windows/") + ToQt(scree
 
 }  // namespace
 
-QtHost::QtHost() = default;
+QtHost::QtHost() { FollowLogOut(); }
 QtHost::~QtHost() = default;
 
 QWidget* QtHost::TopWindow() const { return forms_.empty() ? nullptr : forms_.back()->window(); }
@@ -86,7 +89,8 @@ QWidget* QtHost::TopWindow() const { return forms_.empty() ? nullptr : forms_.ba
 std::unique_ptr<QWidget> QtHost::MakeWindow(Screen& screen) {
   const auto ask = [this, &screen] {
     // Only the top window may close: those below it wait for it.
-    if (!forms_.empty() && &forms_.back()->screen() == &screen) screen.UserClose();
+    if (forms_.empty() || &forms_.back()->screen() != &screen) return;
+    if (MayLeave(*forms_.back())) screen.UserClose();
   };
   if (screen.name() == "Form1") {
     auto window = std::make_unique<MainWindow>();
@@ -99,12 +103,74 @@ std::unique_ptr<QWidget> QtHost::MakeWindow(Screen& screen) {
   return window;
 }
 
+// At a log-out the worker is asked as at the close button.
+void QtHost::FollowLogOut() {
+  QObject::connect(
+      qGuiApp, &QGuiApplication::commitDataRequest, &log_out_,
+      [this](QSessionManager& manager) {
+        if (!manager.allowsInteraction()) return;
+        if (!MayEnd()) manager.cancel();
+        manager.release();
+      },
+      Qt::DirectConnection);
+}
+
+QtHost::Keep QtHost::AskToKeep(const std::string& what) {
+  QMessageBox box(QMessageBox::Warning, ToQt(kProgramTitle), "Save the changes to " + ToQt(what) + "?",
+                  QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, TopWindow());
+  box.setTextFormat(Qt::PlainText);
+  box.setInformativeText("What was typed since the last save is lost otherwise.");
+  box.button(QMessageBox::Discard)->setText("&Don't Save");
+  box.setDefaultButton(QMessageBox::Save);
+  box.setEscapeButton(QMessageBox::Cancel);
+  const int pressed = box.exec();
+  if (pressed == QMessageBox::Save) return Keep::kSave;
+  return pressed == QMessageBox::Discard ? Keep::kDrop : Keep::kCancel;
+}
+
+bool QtHost::MayLeave(const Form& form) {
+  const FormEntry* entry = FindForm(form.screen());
+  if (entry == nullptr || entry->unsaved == nullptr) return true;
+  Screen& screen = form.screen();
+  const std::string what = entry->unsaved(screen);
+  if (what.empty()) return true;
+  const Keep keep = AskToKeep(what);
+  if (keep != Keep::kSave) return keep == Keep::kDrop;
+  bool saved = false;
+  screen.Guard([&] {
+    screen.LeaveFocus();
+    entry->save(screen);
+    saved = true;
+  });
+  return saved;
+}
+
+bool QtHost::MayEnd() {
+  const std::vector<Form*> forms = forms_;
+  return std::all_of(forms.rbegin(), forms.rend(), [this](const Form* form) { return MayLeave(*form); });
+}
+
+namespace {
+
+// The mark of unsaved changes in the title.
+void MarkUnsaved(Form& form, std::string (*unsaved)(Screen&)) {
+  form.Follow([&form, unsaved] {
+    QWidget* window = form.window();
+    const QString title = window->windowTitle();
+    if (!title.endsWith("[*]")) window->setWindowTitle(title + "[*]");
+    window->setWindowModified(!unsaved(form.screen()).empty());
+  });
+}
+
+}  // namespace
+
 void QtHost::RunModal(Screen& screen) {
-  const FormEntry* entry = FindForm(screen.name());
+  const FormEntry* entry = FindForm(screen);
   if (entry == nullptr) throw Fault("No window is made for the screen " + screen.name() + " yet.");
   const std::unique_ptr<QWidget> window = MakeWindow(screen);
   Form form(screen, window.get());
   entry->build(form);
+  if (entry->unsaved != nullptr) MarkUnsaved(form, entry->unsaved);
   QEventLoop loop;
   form.OnClosed([&loop] { loop.quit(); });
   AddTextSizeKeys(window.get());
@@ -112,6 +178,7 @@ void QtHost::RunModal(Screen& screen) {
   forms_.push_back(&form);
   window->show();
   form.TakeFirstFocus();
+  MakeAccessKeysUnique(*window);
   if (on_shown_) {
     QTimer::singleShot(0, &form, [this, &form] { on_shown_(form); });
   }
@@ -124,10 +191,10 @@ void QtHost::RunModal(Screen& screen) {
 
 void QtHost::Place(const Form& form) const {
   QWidget* window = form.window();
-  const FormEntry* entry = FindForm(form.screen().name());
+  const FormEntry* entry = FindForm(form.screen());
   if (remembers_ && entry->remembers_place) {
     const QByteArray kept = QSettings().value(PlaceKey(form.screen())).toByteArray();
-    if (!kept.isEmpty() && window->restoreGeometry(kept)) return;
+    if (!kept.isEmpty() && window->restoreGeometry(kept)) return KeepOnScreen(*window);
   }
   const QScreen* screen = QGuiApplication::primaryScreen();
   if (screen == nullptr) return;
@@ -147,13 +214,13 @@ void QtHost::Place(const Form& form) const {
 }
 
 void QtHost::KeepPlace(const Form& form) const {
-  if (!remembers_ || !FindForm(form.screen().name())->remembers_place) return;
+  if (!remembers_ || !FindForm(form.screen())->remembers_place) return;
   QSettings().setValue(PlaceKey(form.screen()), form.window()->saveGeometry());
 }
 
 void QtHost::AddTextSizeKeys(QWidget* window) {
-  const auto add = [&](QList<QKeySequence> keys, std::function<int(int)> change) {
-    auto* shortcut = std::make_unique<QShortcut>(window).release();
+  const auto add = [&](const QList<QKeySequence>& keys, const std::function<int(int)>& change) {
+    auto* shortcut = Make<QShortcut>(window);
     shortcut->setKeys(keys);
     QObject::connect(shortcut, &QShortcut::activated, window,
                      [this, change] { ChangeTextSize(change(QApplication::font().pointSize())); });
@@ -172,13 +239,39 @@ void SetTextSize(const std::vector<Form*>& forms, int points) {
   Theme theme = CurrentTheme();
   theme.text_size = std::clamp(points, Theme::kSmallestText, Theme::kLargestText);
   ApplyTheme(theme);
-  for (Form* form : forms) form->Resize();
+  for (Form* form : forms) {
+    form->Resize();
+    KeepOnScreen(*form->window());
+  }
+}
+
+void KeepOnScreen(QWidget& window) {
+  const QScreen* screen = window.screen();
+  if (screen == nullptr || window.isMaximized() || window.isFullScreen()) return;
+  const QRect room = screen->availableGeometry();
+  const QSize frame = window.frameGeometry().size() - window.size();
+  const QSize title(0, frame.isNull() ? Quarters(7) : 0);  // a window that was never shown has no frame yet
+  const QSize size = window.size().boundedTo(room.size() - frame - title);
+  if (size != window.size()) window.resize(size);
+  const QRect now = window.frameGeometry();
+  const QPoint least = room.topLeft();
+  const QPoint most = room.bottomRight() - QPoint(now.width() - 1, now.height() - 1);
+  const QPoint place(std::clamp(now.left(), least.x(), std::max(least.x(), most.x())),
+                     std::clamp(now.top(), least.y(), std::max(least.y(), most.y())));
+  if (place != now.topLeft()) window.move(place);
 }
 
 void QtHost::Message(std::string_view title, std::string_view text, Icon icon) {
   QMessageBox box(Lookup(kIcons, icon), ToQt(title), LinesToQt(text), QMessageBox::Ok, TopWindow());
   box.setTextFormat(Qt::PlainText);
   box.exec();
+}
+
+void QtHost::Hint(std::string_view title, std::string_view text, std::string_view about) {
+  const auto [hint, fresh] = hints_.try_emplace(std::string(text), about);
+  if (!fresh && hint->second == about) return;
+  hint->second = about;
+  Message(title, text, Icon::kNone);
 }
 
 Answer QtHost::Ask(const Question& question) {
@@ -189,10 +282,13 @@ Answer QtHost::Ask(const Question& question) {
   box.setDefaultButton(ButtonOf(question.preset));
   if (!question.answers.empty()) box.setEscapeButton(ButtonOf(question.answers.back()));
   const int pressed = box.exec();
+  Answer given = question.answers.empty() ? Answer::kCancel : question.answers.back();
   for (const Answer answer : question.answers) {
-    if (ButtonOf(answer) == pressed) return answer;
+    if (ButtonOf(answer) == pressed) given = answer;
   }
-  return question.answers.empty() ? Answer::kCancel : question.answers.back();
+  const bool refused = given == Answer::kNo || given == Answer::kCancel;
+  if (refused && !forms_.empty()) forms_.back()->PutFocusBack();
+  return given;
 }
 
 std::optional<std::string> QtHost::Input(std::string_view title, std::string_view prompt,
@@ -200,8 +296,9 @@ std::optional<std::string> QtHost::Input(std::string_view title, std::string_vie
   bool accepted = false;
   const QString text = QInputDialog::getText(TopWindow(), ToQt(title), LinesToQt(prompt), QLineEdit::Normal,
                                              ToQt(initial), &accepted);
-  if (!accepted) return std::nullopt;
-  return FromQt(text);
+  if (accepted) return FromQt(text);
+  if (!forms_.empty()) forms_.back()->PutFocusBack();
+  return std::nullopt;
 }
 
 std::optional<std::filesystem::path> QtHost::ChooseFile(FileChoice kind, std::string_view title,
@@ -225,7 +322,7 @@ DateTime QtHost::Now() {
   const QDateTime now = QDateTime::currentDateTime();
   const QDate date = now.date();
   const QTime time = now.time();
-  return {date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second()};
+  return {MakeDay(date.year(), date.month(), date.day()), time.hour(), time.minute(), time.second()};
 }
 
 int QtHost::RandomDigit() { return static_cast<int>(QRandomGenerator::global()->bounded(10)); }
@@ -266,4 +363,4 @@ void QtHost::EndProcess() {
   std::_Exit(0);
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QObject>
 #include <functional>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -10,7 +12,7 @@
 class QPrinter;
 class QWidget;
 
-namespace tarvane {
+namespace tarvane::desktop {
 
 // Shows screens as windows, each by its form, and gives them what they need of the platform.
 class QtHost : public Host {
@@ -25,6 +27,8 @@ class QtHost : public Host {
 
   void RunModal(Screen& screen) override;
   void Message(std::string_view title, std::string_view text, Icon icon) override;
+  // Once about each thing, as long as it is the same one.
+  void Hint(std::string_view title, std::string_view text, std::string_view about) override;
   Answer Ask(const Question& question) override;
   std::optional<std::string> Input(std::string_view title, std::string_view prompt,
                                    std::string_view initial) override;
@@ -41,12 +45,21 @@ class QtHost : public Host {
   void SetUpPrinter() override;
   [[noreturn]] void EndProcess() override;
 
+  enum class Keep { kSave, kDrop, kCancel };
+  // Whether `what`, which isn't stored yet, is to be saved before its window closes.
+  virtual Keep AskToKeep(const std::string& what);
+  // Asks for whatever waits in the open windows, the top one first, and saves what is to be saved. False
+  // where the worker would rather go on, or where it can't be saved.
+  bool MayEnd();
+
   // The window on top; null while none is shown.
   QWidget* TopWindow() const;
   const std::vector<Form*>& forms() const { return forms_; }
 
  private:
   std::unique_ptr<QWidget> MakeWindow(Screen& screen);
+  bool MayLeave(const Form& form);
+  void FollowLogOut();
   void Place(const Form& form) const;
   void KeepPlace(const Form& form) const;
   void AddTextSizeKeys(QWidget* window);
@@ -56,10 +69,15 @@ class QtHost : public Host {
   std::vector<Form*> forms_;
   std::function<void(Form&)> on_shown_;
   std::unique_ptr<QPrinter> printer_;
+  QObject log_out_;  // ends the watch for a log-out with the host
   bool remembers_ = false;
+  std::map<std::string, std::string> hints_;  // by text: what it was shown about last
 };
+
+// Within its screen, frame and all, and no larger than that.
+void KeepOnScreen(QWidget& window);
 
 // The size of the text in all open windows and in those to come.
 void SetTextSize(const std::vector<Form*>& forms, int points);
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

@@ -10,6 +10,7 @@
 #include "app/main_screen.h"
 #include "curtain_wizard/frm_preferences.h"
 #include "curtain_wizard/wizard.h"
+#include "desktop/form_table.h"
 #include "desktop/qt_host.h"
 #include "desktop/text.h"
 #include "desktop/theme.h"
@@ -17,7 +18,7 @@
 #include "tools/list_admin.h"
 #include "tools/options.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 namespace {
 
 // Nobody is there to answer: messages are passed over, questions get their preset.
@@ -28,22 +29,26 @@ class SilentHost : public QtHost {
   [[noreturn]] void EndProcess() override { std::_Exit(0); }
 };
 
+// Walks along all forms: the main screen's pages first, then what it opens, in turn.
 class Photographer {
  public:
-  Photographer(SilentHost& host, MainScreen& main, QDir folder, const char* scheme)
-      : host_(host), main_(main), folder_(std::move(folder)), scheme_(scheme) {
-    host_.OnShown([this](Form& form) { Visit(form); });
+  Photographer(SilentHost& host, app::MainScreen& main, const QDir& folder, const char* scheme)
+      : main_(main), folder_(folder), scheme_(scheme) {
+    host.OnShown([this](Form& form) { Visit(form); });
   }
   int failures() const { return failures_; }
 
  private:
-  void Take(Form& form, const char* name) {
+  void Take(Form& form, std::string_view what, int number = 0) {
     // Twice: what becomes visible may ask for another layout.
     for (int i = 0; i < 2; ++i) {
       form.Flush();
       QCoreApplication::sendPostedEvents();
       QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     }
+    QString name = ToQt(FindForm(form.screen())->picture);
+    if (!what.empty()) name += "-" + ToQt(what);
+    if (number > 0) name += QString::number(number);
     const QString file = folder_.filePath(QString("%1-%2.png").arg(name, scheme_));
     if (form.window()->grab().save(file)) return;
     std::cerr << "tarvane: can't write " << FromQt(file) << "\n";
@@ -51,14 +56,13 @@ class Photographer {
   }
 
   void Visit(Form& form) {
-    const std::string& name = form.screen().name();
-    if (name == "Form1") return VisitMain(form);
-    if (name == "MainCWizard") {
-      VisitWizard(form);
+    if (&form.screen() == &main_) return VisitMain(form);
+    if (auto* wizard = dynamic_cast<curtain_wizard::MainCWizard*>(&form.screen())) {
+      VisitWizard(form, *wizard);
     } else {
-      if (name == "FrmListAdmin") static_cast<FrmListAdmin&>(form.screen()).CMDLOAD.Press();
+      if (auto* lists = dynamic_cast<tools::FrmListAdmin*>(&form.screen())) lists->Lists.CMDLOAD.Press();
       form.window()->resize(form.window()->sizeHint());
-      Take(form, picture_);
+      Take(form, "");
     }
     form.screen().Close();
   }
@@ -66,57 +70,36 @@ class Photographer {
   void VisitMain(Form& form) {
     form.window()->setWindowState(Qt::WindowNoState);
     form.window()->resize(1366, 768);
-    Take(form, "main-finder");
+    Take(form, "finder");
     main_.OpenRecord();
-    constexpr const char* kPages[] = {"main-customer", "main-singles", "main-rooms", "main-history"};
+    constexpr const char* kPages[] = {"customer", "singles", "rooms", "history"};
     for (int page = 0; page < 4; ++page) {
       main_.SSTab2.Select(page);
       if (page == 2) main_.RoomItemGrid[0].UserSelectRow(1);
       Take(form, kPages[page]);
     }
     main_.SSTab2.Select(0);
-    Show<frmOptions>("settings", main_);
-    Show<FrmListAdmin>("option-lists", main_.folder());
-    Show<FrmEnterSalesPerson>("sales-person", main_);
-    VisitItem();
+    for (const FormEntry& entry : Forms()) {
+      if (entry.show != nullptr) main_.Guard([&] { entry.show(main_); });
+    }
     main_.Close();
   }
 
-  template <typename Shown, typename... Arguments>
-  void Show(const char* picture, Arguments&&... arguments) {
-    picture_ = picture;
-    Shown screen(host_, std::forward<Arguments>(arguments)...);
-    main_.Guard([&] { main_.ShowModal(screen); });
-  }
-
-  // The first curtain of the first room, as Edit Item opens it.
-  void VisitItem() {
-    picture_ = "preferences";
-    MainCWizard wizard(host_, main_);
-    FrmPreferences preferences(host_, wizard);
-    main_.Guard([&] { main_.ShowModal(preferences); });
-    main_.RoomItemGrid[0].Select(1);
-    main_.Guard([&] { main_.EditItem(); });
-  }
-
-  void VisitWizard(Form& form) {
-    auto& wizard = static_cast<MainCWizard&>(form.screen());
+  void VisitWizard(Form& form, curtain_wizard::MainCWizard& wizard) {
     form.window()->resize(1280, 740);
-    for (int step = 0; step < MainCWizard::kSteps; ++step) {
+    for (int step = 0; step < curtain_wizard::MainCWizard::kSteps; ++step) {
       if (step > 0) wizard.CmdNext.Press();
       if (wizard.AddTrims.shown()) wizard.AddTrims.UserSet(true);
       if (wizard.CmdGetInfo.shown()) wizard.CmdGetInfo.Press();
       if (wizard.CostingGrid.RowCount() > 0) wizard.CostingGrid.UserSelectRow(1);
-      Take(form, FromQt(QString("wizard-step-%1").arg(step + 1)).c_str());
+      Take(form, "step-", step + 1);
       if (wizard.AddTrims.on()) wizard.AddTrims.UserSet(false);
     }
   }
 
-  SilentHost& host_;
-  MainScreen& main_;
+  app::MainScreen& main_;
   QDir folder_;
   QString scheme_;
-  const char* picture_ = "splash";
   int failures_ = 0;
 };
 
@@ -131,7 +114,8 @@ int TakeScreenshots(const std::filesystem::path& folder, const std::filesystem::
   for (const auto& [name, scheme] : kSchemes) {
     ApplyTheme({scheme, CurrentTheme().text_size});
     SilentHost host;
-    MainScreen main(host, folder);
+    Shop shop(folder);
+    app::MainScreen main(host, shop);
     Photographer photographer(host, main, directory, name);
     main.RunAsMain();
     failures += photographer.failures();
@@ -139,4 +123,4 @@ int TakeScreenshots(const std::filesystem::path& folder, const std::filesystem::
   return failures == 0 ? 0 : 1;
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

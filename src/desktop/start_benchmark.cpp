@@ -14,8 +14,11 @@
 
 #include "app/main_screen.h"
 #include "desktop/qt_host.h"
+#include "desktop/shop_check.h"
+#include "shop/shop_lock.h"
+#include "text/fault.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 namespace {
 
 // From the kernel's account of the process: hundredths of a second.
@@ -63,9 +66,12 @@ int BenchmarkStart(const std::filesystem::path& folder) {
       form.window()->update();
     }
   });
-  MainScreen screen(host, folder);
+  const std::optional<ShopLock> lock = ShopLock::Take(folder);
+  Shop shop(folder);
+  if (const auto trouble = FindTrouble(shop)) throw Fault(trouble->why);
+  app::MainScreen screen(host, shop);
   screen.RunAsMain();
   return 0;
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

@@ -7,7 +7,7 @@
 
 #include "desktop/theme.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 namespace {
 
 int Disc() { return Quarters(6); }
@@ -128,4 +128,4 @@ void StepBar::paintEvent(QPaintEvent*) {
   }
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

@@ -5,7 +5,7 @@
 #include <functional>
 #include <vector>
 
-namespace tarvane {
+namespace tarvane::desktop {
 
 // The steps of a wizard in a row: those that are done with a tick, the present one marked, those to come
 // quiet. Where there is no room for all names, the present one keeps its own.
@@ -33,4 +33,4 @@ class StepBar : public QWidget {
   int step_ = 0;
 };
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

@@ -4,7 +4,9 @@
 #include <string>
 #include <string_view>
 
-namespace tarvane {
+#include "text/trim.h"
+
+namespace tarvane::desktop {
 
 inline QString ToQt(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -17,9 +19,6 @@ inline QString LinesToQt(std::string_view text) { return ToQt(text).replace("\r\
 inline std::string LinesFromQt(const QString& text) { return FromQt(QString(text).replace("\n", "\r\n")); }
 
 // A caption without the mark of its access key.
-inline QString PlainCaption(std::string_view caption) {
-  QString text = ToQt(caption);
-  return text.replace("&&", QChar(1)).remove('&').replace(QChar(1), '&');
-}
+inline QString PlainText(std::string_view caption) { return ToQt(PlainCaption(caption)); }
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

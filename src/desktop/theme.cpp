@@ -10,8 +10,9 @@
 #include <utility>
 
 #include "desktop/calm_style.h"
+#include "desktop/make.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 namespace {
 
 constexpr std::array<std::pair<const char*, ColourScheme>, 3> kSchemes = {{
@@ -21,14 +22,16 @@ constexpr std::array<std::pair<const char*, ColourScheme>, 3> kSchemes = {{
 }};
 
 struct Colours {
-  QRgb window, text, base, alternate, button, quiet, disabled, rule, frame, strip, accent, on_accent, link;
+  QRgb window, text, base, alternate, button, quiet, disabled, rule, frame, strip, accent, on_accent, link,
+      idle, wrong;
 };
 //                             window      text        base        alternate   button      quiet
 constexpr Colours kLight = {0xfff4f5f7, 0xff1c2126, 0xffffffff, 0xfff5f8fb, 0xffeceff2,
-                            0xff56606b, 0xff99a1aa, 0xffd3d8de, 0xff9aa4af, 0xffe6ecf2,
-                            0xff1f5f99, 0xffffffff, 0xff1f5f99};
-constexpr Colours kDark = {0xff23272c, 0xffe6e9ec, 0xff1a1d21, 0xff20242a, 0xff343a41, 0xffa5afb9, 0xff6c757e,
-                           0xff3d444c, 0xff5f6a75, 0xff2c333b, 0xff5aa5e6, 0xff10161c, 0xff7dbcf2};
+                            0xff56606b, 0xff626a73, 0xffd3d8de, 0xff9aa4af, 0xffe6ecf2,
+                            0xff1f5f99, 0xffffffff, 0xff1f5f99, 0xffbfcddb, 0xffb3261e};
+constexpr Colours kDark = {0xff23272c, 0xffe6e9ec, 0xff1a1d21, 0xff20242a, 0xff343a41,
+                           0xffa5afb9, 0xff9ba4ad, 0xff3d444c, 0xff5f6a75, 0xff2c333b,
+                           0xff5aa5e6, 0xff10161c, 0xff7dbcf2, 0xff435261, 0xffff8a80};
 
 constexpr char kSystemIsDark[] = "system_is_dark";
 constexpr char kScheme[] = "scheme";
@@ -42,6 +45,10 @@ QPalette PaletteOf(const Colours& colours) {
   palette.setColor(QPalette::ToolTipText, QColor(colours.text));
   palette.setColor(QPalette::Highlight, QColor(colours.accent));
   palette.setColor(QPalette::HighlightedText, QColor(colours.on_accent));
+  // What is selected where the worker isn't.
+  palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor(colours.idle));
+  palette.setColor(QPalette::Inactive, QPalette::HighlightedText, QColor(colours.text));
+  palette.setColor(QPalette::BrightText, QColor(colours.wrong));
   palette.setColor(QPalette::PlaceholderText, QColor(colours.quiet));
   palette.setColor(QPalette::Link, QColor(colours.link));
   for (const auto role :
@@ -85,7 +92,7 @@ void ApplyTheme(const Theme& theme) {
   QCoreApplication& application = *QCoreApplication::instance();
   if (!application.property(kSystemIsDark).isValid()) {
     application.setProperty(kSystemIsDark, QApplication::palette().color(QPalette::Window).lightness() < 128);
-    QApplication::setStyle(std::make_unique<CalmStyle>().release());
+    QApplication::setStyle(Make<CalmStyle>());
   }
   const bool dark = theme.scheme == ColourScheme::kDark ||
                     (theme.scheme == ColourScheme::kSystem && application.property(kSystemIsDark).toBool());
@@ -107,6 +114,7 @@ int Quarters(int count) { return (QFontMetrics(QApplication::font()).height() * 
 int Digits(int count) { return QFontMetrics(QApplication::font()).horizontalAdvance('0') * count; }
 
 QColor RuleColour() { return QApplication::palette().color(QPalette::Mid); }
+QColor WrongColour() { return QApplication::palette().color(QPalette::BrightText); }
 QColor StripColour() { return QApplication::palette().color(QPalette::ToolTipBase); }
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

@@ -4,7 +4,7 @@ class QColor;
 class QFont;
 class QString;
 
-namespace tarvane {
+namespace tarvane::desktop {
 
 enum class ColourScheme { kSystem, kLight, kDark };
 
@@ -37,6 +37,7 @@ int Digits(int count);
 // Colours without a role of their own in the palette. Quiet texts (captions, units, hints) are its
 // PlaceholderText, what stands out its Highlight.
 QColor RuleColour();   // thin lines between groups
+QColor WrongColour();  // the edge of a field whose text can't be taken
 QColor StripColour();  // behind the totals
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

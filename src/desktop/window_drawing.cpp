@@ -3,23 +3,18 @@
 #include <QLinearGradient>
 #include <QPainter>
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <utility>
 
-#include "curtain_wizard/wizard.h"
-#include "desktop/text.h"
 #include "desktop/theme.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 namespace {
 
-constexpr double kCentimetresPerInch = 2.54;
 constexpr double kUsualTrack = 80;  // stands in for a side that isn't known yet
 constexpr double kUsualDrop = 60;
 constexpr double kFlattest = 1.0 / 6;  // width to height, as drawn
 constexpr double kWidest = 6;
-constexpr double kInchRounding = 0.06;
 constexpr int kMostSeams = 60;
 constexpr int kMostFolds = 60;
 constexpr int kMostBands = 80;
@@ -37,35 +32,7 @@ QColor Faded(QColor colour, double alpha) {
   return colour;
 }
 
-bool Mentions(const std::string& text, const char* word) {
-  return ToQt(text).contains(QLatin1String(word), Qt::CaseInsensitive);
-}
-
-Heading HeadingOf(const MainCWizard& wizard, double fullness) {
-  const std::string& style = wizard.CboCurtainStyle.text();
-  if (wizard.AutoMeasureGoblet.on() || Mentions(style, "goblet")) return Heading::kGoblet;
-  if (wizard.AutoMeasureBoxPleat.on() || Mentions(style, "box pleat")) return Heading::kBoxPleat;
-  return fullness > 0 && fullness <= 1.05 ? Heading::kFlat : Heading::kGathered;
-}
-
-LengthUnit UnitOf(const MainCWizard& wizard) {
-  if (wizard.InputInInches.on()) return LengthUnit::kInches;
-  return wizard.UnitMm.on() ? LengthUnit::kMillimetres : LengthUnit::kCentimetres;
-}
-
-// Of a measure that the worker types in centimetres, in inches: the inch box is rounded, and she knows her
-// own figure. Millimetres stand in the box where it was converted for reading. Otherwise the inches count,
-// but for the box that is being typed into.
-double FromMirror(double shown, double inches, bool typing) {
-  if (!(std::isfinite(shown) && shown > 0)) return typing ? 0 : inches;
-  const double centimetres = shown / kCentimetresPerInch;
-  for (const double mirror : {centimetres, centimetres / 10}) {
-    if (std::abs(mirror - inches) <= kInchRounding) return mirror;
-  }
-  return typing ? centimetres : inches;
-}
-
-int FoldsOf(const WindowSketch& sketch, const QRectF& curtain) {
+int FoldsOf(const curtain_wizard::WindowSketch& sketch, const QRectF& curtain) {
   if (sketch.fullness <= 1.05 && sketch.fullness > 0) return 0;
   const double track = sketch.track > 0 ? sketch.track : kUsualTrack;
   const double most = std::min<double>(kMostFolds, curtain.width() / 8);
@@ -74,7 +41,7 @@ int FoldsOf(const WindowSketch& sketch, const QRectF& curtain) {
 
 // Seams stand where one width, gathered, ends. The calculated number of widths shares the track out evenly,
 // as long as it still fits the measures.
-std::vector<double> Seams(const WindowSketch& sketch) {
+std::vector<double> Seams(const curtain_wizard::WindowSketch& sketch) {
   if (sketch.track <= 0) return {};
   double needed = 0;
   if (sketch.fabric_width > 0 && sketch.fullness > 0) {
@@ -123,35 +90,7 @@ void DrawArrow(QPainter& painter, const QPointF& from, const QPointF& to) {
 
 }  // namespace
 
-DrawnWindow ReadWindow(const MainCWizard& wizard) {
-  DrawnWindow window{.sketch = SketchWindow(wizard), .unit = UnitOf(wizard)};
-  const std::array<std::pair<const TextField*, double WindowSketch::*>, 5> boxes = {{
-      {&wizard.TrackWidthCm, &WindowSketch::track},
-      {&wizard.FinishedLengthCm, &WindowSketch::drop},
-      {&wizard.FabricWidthCm, &WindowSketch::fabric_width},
-      {&wizard.PatternRepeatCm, &WindowSketch::pattern_repeat},
-      {&wizard.HemAllowanceCm, &WindowSketch::hem},
-  }};
-  for (const auto& [box, measure] : boxes) {
-    if (!box->enabled()) continue;
-    double& inches = window.sketch.*measure;
-    inches = FromMirror(box->Number(), inches, wizard.focus() == box);
-  }
-  window.heading = HeadingOf(wizard, window.sketch.fullness);
-  return window;
-}
-
-QString LengthText(double inches, LengthUnit unit) {
-  static constexpr std::array<std::pair<double, const char*>, 3> kUnits = {
-      {{1, "in"}, {kCentimetresPerInch, "cm"}, {kCentimetresPerInch * 10, "mm"}}};
-  const auto& [factor, name] = kUnits[static_cast<std::size_t>(unit)];
-  const double length = inches * factor;
-  const QString number =
-      length < 1e6 ? QString::number(std::round(length * 10) / 10, 'g', 8) : QString::number(length, 'g', 3);
-  return number + ' ' + QLatin1String(name);
-}
-
-CurtainPlace PlaceCurtain(const WindowSketch& sketch, const QRectF& room) {
+CurtainPlace PlaceCurtain(const curtain_wizard::WindowSketch& sketch, const QRectF& room) {
   CurtainPlace place;
   const double track = sketch.track > 0 ? sketch.track : kUsualTrack;
   const double drop = sketch.drop > 0 ? sketch.drop : kUsualDrop;
@@ -173,21 +112,19 @@ WindowDrawing::WindowDrawing(QWidget* parent) : QWidget(parent) {
 void WindowDrawing::Show(const DrawnWindow& window) {
   if (window == window_) return;
   window_ = window;
-  const auto [track, drop] = std::pair(window.sketch.track, window.sketch.drop);
-  setAccessibleDescription(
-      QString("Track %1, drop %2, %3")
-          .arg(LengthText(track, window.unit), LengthText(drop, window.unit), WidthsNote()));
+  setAccessibleDescription(Description());
   update();
 }
 
 QSize WindowDrawing::sizeHint() const { return {Digits(24), Quarters(72)}; }
-QSize WindowDrawing::minimumSizeHint() const { return {Digits(18), Quarters(36)}; }
+QSize WindowDrawing::minimumSizeHint() const { return {Digits(18), Quarters(20)}; }
 
 void WindowDrawing::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const double line = fontMetrics().height();
-  const QRectF room = QRectF(rect()).adjusted(line * 2.2, line * 3, -line * 2.2, -line * 3.4);
+  const double notes = window_.sketch.outdated ? 5.4 : 4.4;
+  const QRectF room = QRectF(rect()).adjusted(line * 2.2, line * 3, -line * 2.2, -line * notes);
   if (room.width() < 20 || room.height() < 20) return;
   const CurtainPlace place = PlaceCurtain(window_.sketch, room);
   const QPainterPath cloth = ClothPath(place.curtain, FoldsOf(window_.sketch, place.curtain));
@@ -198,7 +135,10 @@ void WindowDrawing::paintEvent(QPaintEvent*) {
   DrawSeams(painter, place);
   DrawHems(painter, place);
   DrawHeading(painter, place);
+  DrawTrim(painter, place);
+  DrawTieBacks(painter, place);
   painter.restore();
+  DrawLining(painter, place);
   DrawPole(painter, place);
   DrawMeasures(painter, place);
   DrawNotes(painter, place);
@@ -308,8 +248,84 @@ void WindowDrawing::DrawHeading(QPainter& painter, const CurtainPlace& place) co
   }
 }
 
+// What isn't of the fabric itself has a colour of its own, warm where the accent is cool.
+QColor WindowDrawing::TrimColour() const {
+  return palette().color(QPalette::Window).lightness() < 128 ? QColor(0xe0, 0x9a, 0x5c)
+                                                             : QColor(0xb0, 0x58, 0x20);
+}
+
+// A border is as deep as it will be; what is sewn on at the edge is a fringed line.
+void WindowDrawing::DrawTrim(QPainter& painter, const CurtainPlace& place) const {
+  const curtain_wizard::TrimSketch& trim = window_.sketch.trim;
+  if (!trim.Anywhere()) return;
+  const QRectF& curtain = place.curtain;
+  const bool fringe = trim.depth <= 0;
+  const double most = std::min(curtain.width(), curtain.height()) / 4;
+  const double depth = std::min(most, fringe ? 4.0 : std::max(3.0, trim.depth * place.scale));
+  const double middle = curtain.center().x();
+  QPainterPath strips;
+  strips.setFillRule(Qt::WindingFill);
+  if (trim.top) strips.addRect(QRectF(curtain.left(), curtain.top(), curtain.width(), depth));
+  if (trim.bottom)
+    strips.addRect(QRectF(curtain.left(), curtain.bottom() - depth, curtain.width(), depth + 6));
+  if (trim.sides) {
+    strips.addRect(QRectF(curtain.left(), curtain.top(), depth, curtain.height() + 6));
+    strips.addRect(QRectF(curtain.right() - depth, curtain.top(), depth, curtain.height() + 6));
+  }
+  if (trim.middle) strips.addRect(QRectF(middle - depth, curtain.top(), depth * 2, curtain.height() + 6));
+  painter.setPen(QPen(TrimColour(), 1.2));
+  painter.setBrush(QBrush(Faded(TrimColour(), 0.4), fringe ? Qt::BDiagPattern : Qt::SolidPattern));
+  painter.drawPath(strips.simplified());
+  if (!trim.middle) return;
+  painter.setPen(QPen(palette().color(QPalette::WindowText), 1));
+  painter.drawLine(QPointF(middle, curtain.top()), QPointF(middle, curtain.bottom() + 6));
+}
+
+// Bands that would hold the cloth aside, at the height where they are hooked.
+void WindowDrawing::DrawTieBacks(QPainter& painter, const CurtainPlace& place) const {
+  const QRectF& curtain = place.curtain;
+  const double reach = std::min(curtain.width() * 0.22, 90.0);
+  const double thick = std::clamp(curtain.height() * 0.035, 4.0, 12.0);
+  const double y = curtain.top() + curtain.height() * 0.62;
+  for (int at = 0; at < window_.sketch.tie_backs; ++at) {
+    const double edge = at == 0 ? curtain.left() : curtain.right();
+    const double inner = at == 0 ? edge + reach : edge - reach;
+    QPainterPath band(QPointF(edge, y - thick));
+    band.quadTo(QPointF((edge + inner) / 2, y + thick * 2), QPointF(inner, y + thick));
+    band.quadTo(QPointF((edge + inner) / 2, y + thick * 4), QPointF(edge, y + thick));
+    band.closeSubpath();
+    painter.setPen(QPen(palette().color(QPalette::WindowText), 1));
+    painter.setBrush(
+        Blend(palette().color(QPalette::Base), palette().color(QPalette::Active, QPalette::Highlight), 0.65));
+    painter.drawPath(band);
+  }
+}
+
+// The lower corner turned up, so that the back is seen; an interlining as a second layer.
+void WindowDrawing::DrawLining(QPainter& painter, const CurtainPlace& place) const {
+  const curtain_wizard::WindowSketch& sketch = window_.sketch;
+  if (!sketch.lined && !sketch.interlined) return;
+  const QRectF& curtain = place.curtain;
+  const double size = std::min({curtain.width() * 0.2, curtain.height() * 0.2, 46.0});
+  const QPointF corner = curtain.bottomRight() + QPointF(0, 5);
+  const QPointF up(corner.x(), corner.y() - size);
+  const QPointF left(corner.x() - size, corner.y());
+  const QPointF turned(corner.x() - size, corner.y() - size);
+  const QColor ground = palette().color(QPalette::Window);
+  const QColor ink = palette().color(QPalette::WindowText);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(ground);
+  painter.drawPolygon(QPolygonF({up, left, corner + QPointF(1, 1)}));
+  painter.setPen(QPen(Blend(ground, ink, 0.6), 1.2));
+  painter.setBrush(Blend(palette().color(QPalette::Base), ink, sketch.lined ? 0.12 : 0.3));
+  painter.drawPolygon(QPolygonF({up, left, turned}));
+  if (!sketch.lined || !sketch.interlined) return;
+  const QPointF in(-size * 0.22, -size * 0.22);
+  painter.drawLine(QLineF(up + QPointF(in.x(), 0), left + QPointF(0, in.y())));
+}
+
 void WindowDrawing::DrawMeasures(QPainter& painter, const CurtainPlace& place) const {
-  const WindowSketch& sketch = window_.sketch;
+  const curtain_wizard::WindowSketch& sketch = window_.sketch;
   const QRectF& curtain = place.curtain;
   const double line = fontMetrics().height();
   const auto text = [this](double inches) {
@@ -338,35 +354,17 @@ void WindowDrawing::DrawMeasures(QPainter& painter, const CurtainPlace& place) c
   upright(curtain.right() + line * 0.7, curtain.top(), curtain.top() + band, repeat);
 }
 
-QString WindowDrawing::WidthsNote() const {
-  const WindowSketch& sketch = window_.sketch;
-  QStringList parts;
-  if (sketch.fabric_width > 0) {
-    const QString widths = sketch.widths <= 0   ? QString("fabric")
-                           : sketch.widths == 1 ? QString("1 width")
-                                                : QString("%1 widths").arg(sketch.widths, 0, 'g', 6);
-    parts += widths + " of " + LengthText(sketch.fabric_width, window_.unit);
-  }
-  if (sketch.fullness > 0) parts += QString("fullness %1").arg(sketch.fullness, 0, 'g', 4);
-  return parts.join(", ");
-}
-
-QString WindowDrawing::Notes(const CurtainPlace& place) const {
-  const WindowSketch& sketch = window_.sketch;
-  if (sketch.track <= 0 || sketch.drop <= 0) return "Enter the track width and the finished length";
-  QStringList cut;
-  if (sketch.cut_length > 0) cut += "cut " + LengthText(sketch.cut_length, window_.unit);
-  if (sketch.hem > 0) cut += "heads and hems " + LengthText(sketch.hem, window_.unit);
-  QStringList lines = {WidthsNote(), cut.join(", "), place.to_scale ? QString() : QString("Not to scale")};
-  lines.removeAll(QString());
-  return lines.join('\n');
-}
-
 void WindowDrawing::DrawNotes(QPainter& painter, const CurtainPlace& place) const {
+  double top = place.curtain.bottom() + fontMetrics().height() * 0.5;
+  if (window_.sketch.outdated) {
+    painter.setPen(TrimColour());
+    const double line = fontMetrics().height() * 1.1;
+    painter.drawText(QRectF(0, top, width(), line), Qt::AlignHCenter | Qt::AlignTop, kOutdated);
+    top += line;
+  }
   painter.setPen(palette().color(QPalette::PlaceholderText));
-  const double top = place.curtain.bottom() + fontMetrics().height() * 0.5;
   painter.drawText(QRectF(0, top, width(), height() - top),
                    Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, Notes(place));
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

@@ -5,7 +5,7 @@
 #include <QMainWindow>
 #include <functional>
 
-namespace tarvane {
+namespace tarvane::desktop {
 
 // Closing a window is the screen's decision: the window's own close button and Escape only ask.
 class MainWindow : public QMainWindow {
@@ -39,4 +39,4 @@ class DialogWindow : public QDialog {
   }
 };
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

@@ -4,8 +4,9 @@
 #include <cstddef>
 #include <string_view>
 
-// The columns of a job that come in families. A job is one row of TblBrindel; the others go by their names.
-namespace tarvane {
+// The columns of a job that come in families. The job itself is a row of TblBrindel; its other columns go by
+// their names.
+namespace tarvane::job {
 
 inline constexpr std::size_t kRoomCount = 12;
 
@@ -37,11 +38,8 @@ inline constexpr std::array<std::string_view, kCheckListCount> kCheckListColumns
     "Check1", "YesNo2", "Check3", "Check4",  "Check5",  "Check6",
     "Check7", "Check8", "Check9", "Check10", "Check11", "Check12"};
 
-inline constexpr std::string_view kJobTable = "TblBrindel";
-inline constexpr std::string_view kAdminTable = "Admin";
-
 // Percentages of a new job where the settings have none.
 inline constexpr std::string_view kDefaultDiscountPercent = "0";
 inline constexpr std::string_view kDefaultDepositPercent = "20";
 
-}  // namespace tarvane
+}  // namespace tarvane::job

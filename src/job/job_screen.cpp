@@ -2,13 +2,15 @@
 
 #include <utility>
 
-#include "store/data_files.h"
+#include "text/trim.h"
 
-namespace tarvane {
+namespace tarvane::job {
 
 namespace {
 
 constexpr int kUnlimited = 0;
+constexpr std::string_view kNoTax = "0";
+constexpr std::string_view kNoMoney = "0.00";
 constexpr int kSingleItemsPage = 1;
 constexpr int kRoomsPage = 2;
 constexpr std::string_view kPrePaidHint =
@@ -16,8 +18,7 @@ constexpr std::string_view kPrePaidHint =
 
 }  // namespace
 
-JobScreen::JobScreen(Host& host, std::filesystem::path folder)
-    : Screen(host, "Form1"), folder_(std::move(folder)) {
+JobScreen::JobScreen(Host& host, Shop& shop) : Screen(host, std::string(kName)), shop_(shop) {
   BindJob();
   BindSettings();
   MarkHidden();
@@ -87,7 +88,7 @@ void JobScreen::SetRules() {
   cboVAT.OnPicked([this] { TaxEntered(); });
   cboVAT.OnEnterKey([this] { TaxEntered(); });
   PrePaid.OnChanged([this] { cal(); });
-  PrePaid.OnEntered([this] { Message(kPrePaidHint); });
+  PrePaid.OnEntered([this] { host().Hint(kProgramTitle, kPrePaidHint, RefNo.text()); });
   DiscountPercent.OnChanged([this] { cal(); });
   DepositPercent.OnTyped([this] {
     if (DepositPercent.empty()) DepositPercent.SetText(TxtP2.empty() ? kDefaultDepositPercent : TxtP2.text());
@@ -96,7 +97,6 @@ void JobScreen::SetRules() {
   // Of the rooms' totals, only that of room 2 does so.
   RoomTotal[1].OnChanged([this] { cal(); });
 
-  RecordBar.AddAlias("Data1");
   Data1.OnReposition([this] { Repositioned(); });
 }
 
@@ -104,9 +104,7 @@ void JobScreen::SetRoomRules() {
   SSTab1.OnSelected([this] { RoomTabSelected(); });
   for (std::size_t i = 0; i < kRoomCount; ++i) {
     RoomItemGrid[i].AddAlias("MSFlexGrid3");
-    RoomItemGrid[i].OnRowSelected([this, &grid = RoomItemGrid[i]] {
-      Text1.SetText(TrimSpaces(grid.Text(grid.selected_row(), kEstPageInfoColumn)));
-    });
+    RoomItemGrid[i].OnRowSelected([this] { ShowSelectedItem(); });
     CmdClearRoom[i].SetVisible(i == 0);
     CmdClearRoom[i].OnClicked([this, room = static_cast<int>(i) + 1] { ClearRoom(room); });
   }
@@ -119,9 +117,10 @@ void JobScreen::SetRoomRules() {
 
   SingleItemGrid.AddAlias("MSFlexGrid1");
   SingleItemGrid.SetWidths({800, 500, 4500, 1200, 1200});
-  // Adding and updating a single item wait for their screen.
-  for (Button& button : CmdRooms) button.SetEnabled(false);
-  SingleItemGrid.OnRowSelected([this] { CmdRooms[2].SetEnabled(true); });
+  for (Button* button : {&CmdRooms[1], &CmdRooms[2]}) button->SetEnabled(false);
+  SingleItemGrid.OnRowSelected([this] {
+    for (Button* button : {&CmdRooms[1], &CmdRooms[2]}) button->SetEnabled(true);
+  });
   CmdRooms[2].OnClicked([this] { DeleteSingleItem(); });
 }
 
@@ -133,42 +132,79 @@ int JobScreen::CurrentMember(std::string_view family) const {
 }
 
 void JobScreen::OpenData() {
-  Data1.Close();
-  Data2.Close();
-  database_.emplace(FindFile(folder_, data_file::kJobs));
   // The settings first: jobs with blank percentages take theirs. Without settings there still are jobs.
   std::optional<Fault> no_settings;
   try {
-    Data2.Open(*database_, kAdminTable);
+    Data2.Open(shop_.database(), kAdminTable);
   } catch (const Fault& fault) {
     no_settings = fault;
   }
-  Data1.Open(*database_, kJobTable);
+  OpenJobs();
   if (no_settings) throw *no_settings;
 }
 
-void JobScreen::OpenJobs() {
-  if (!database_) return OpenData();
-  Data1.Open(*database_, kJobTable);
+void JobScreen::OpenJobs() { Data1.Open(shop_.database(), kJobTable); }
+
+void JobScreen::RefreshSettings() {
+  RowSet& settings = Data2.rows();
+  // The first company may have been added since; another screen may have changed the settings.
+  if (!settings.IsOpen()) IgnoreFaults([this] { Data2.Open(shop_.database(), kAdminTable); });
+  if (!settings.IsOpen()) return;
+  if (!Data2.HasRow()) settings.MoveFirst();
+  if (!Data2.HasRow()) return;
+  settings.Resync();
+  Data2.LoadFields();
+}
+
+void JobScreen::DiscardChanges() {
+  Data1.rows().CancelUpdate();
+  Data1.LoadFields();
+  Repositioned();
+  Records.Show();
+}
+
+std::string JobScreen::RaiseOrderNumber() {
+  RefreshSettings();
+  if (!Data2.HasRow()) {
+    TxtLastOrderNo.SetText(NumberText(TxtLastOrderNo.Number() + 1));
+    return TxtLastOrderNo.text();
+  }
+  shop_.Raise(counter::kOrder);
+  RefreshSettings();
+  return TxtLastOrderNo.text();
+}
+
+void JobScreen::Activate() {
+  cboVAT.SetText(kNoTax);
+  RunEach({[this] { RefreshSettings(); }, [this] { Records.Show(); }, [this] { Refresh(); }});
+}
+
+void JobScreen::Refresh() {
+  WorkOut([this] { RunEach({[this] { LoadSingles(); }, [this] { LoadRoom(); }, [this] { cal(); }}); });
+}
+
+void JobScreen::WorkOut(const std::function<void()>& step) {
+  if (JobIsOpen()) {
+    step();
+  } else {
+    Data1.WithoutWriting(step);
+  }
 }
 
 void JobScreen::Repositioned() {
   // A table without rows, or a total that can't be worked out, must not keep the worker from moving on.
   IgnoreFaults([this] { HistoryHeading.SetCaption(" Payments History for " + Name.text()); });
-  ShowRecordPosition();
   // The other rooms are read as their tabs are selected.
   for (HeldGrid& grid : RoomItemGrid) grid.Clear();
+  grid_text_.fill(std::nullopt);
+  Text1.SetText("");
   if (unseen_) return;
-  IgnoreFaults([this] { LoadSingles(); });
-  IgnoreFaults([this] { LoadRoom(); });
-  IgnoreFaults([this] { cal(); });
-}
-
-void JobScreen::ShowRecordPosition() {
-  IgnoreFaults([this] {
-    if (!Data1.HasRow() || Data1.rows().IsAdding()) return;
-    RecordBar.SetCaption("Record: " + std::to_string(Data1.rows().AbsolutePosition() + 1) + " of " +
-                         std::to_string(Data1.rows().RecordCount()));
+  // Before its totals: no job pays the tax of the one before it.
+  cboVAT.SetText(kNoTax);
+  WorkOut([this] {
+    IgnoreFaults([this] { LoadSingles(); });
+    IgnoreFaults([this] { LoadRoom(); });
+    IgnoreFaults([this] { cal(); });
   });
 }
 
@@ -195,15 +231,24 @@ void JobScreen::LoadRoom() {
   const std::size_t room = RoomIndex();
   const ItemLines lines(RoomItems[room].text(), kRoomItemLayout);
   RoomItemGrid[room].SetRows(lines.Rows());
+  grid_text_[room] = RoomItems[room].text();
+  ShowSelectedItem();
   if (!Data1.HasRow()) return;
-  if (SSTab1.selected() == static_cast<int>(room)) RoomTotal[room].SetText("0.00");
-  RoomTotal[room].SetText(lines.RunningTotal(RoomTotal[room].text()));
+  const bool selected = SSTab1.selected() == static_cast<int>(room);
+  RoomTotal[room].SetText(lines.RunningTotal(selected ? kNoMoney : RoomTotal[room].text()));
+}
+
+void JobScreen::ShowSelectedItem() {
+  const double room = TxtRoomNum.Number();
+  if (room < 1 || room > static_cast<double>(kRoomCount)) return;
+  const HeldGrid& grid = RoomItemGrid[static_cast<std::size_t>(room) - 1];
+  Text1.SetText(grid.RowCount() == 0 ? "" : TrimSpaces(grid.Text(grid.selected_row(), kEstPageInfoColumn)));
 }
 
 void JobScreen::LoadSingles() {
   const ItemLines lines(SingleItems.text(), kSingleItemLayout);
   SingleItemGrid.SetRows(lines.Rows());
-  TxtSubTotal.SetText(lines.RunningTotal("0.00"));
+  TxtSubTotal.SetText(lines.RunningTotal(kNoMoney));
 }
 
 void JobScreen::RoomTabSelected() {
@@ -211,8 +256,7 @@ void JobScreen::RoomTabSelected() {
   for (std::size_t i = 0; i < kRoomCount; ++i) {
     CmdClearRoom[i].SetVisible(static_cast<int>(i) + 1 == SelectedRoom());
   }
-  LoadRoom();
-  cal();
+  RunEach({[this] { LoadRoom(); }, [this] { cal(); }});
 }
 
 void JobScreen::GoToRoom(int room) {
@@ -225,4 +269,4 @@ void JobScreen::GoToRoom(int room) {
   TxtRoomNum.SetText(std::to_string(room));
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::job

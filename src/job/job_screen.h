@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
@@ -11,10 +10,11 @@
 #include "job/room_text.h"
 #include "screen/control_family.h"
 #include "screen/data_source.h"
+#include "screen/record_bar.h"
 #include "screen/screen.h"
-#include "store/database.h"
+#include "shop/shop.h"
 
-namespace tarvane {
+namespace tarvane::job {
 
 // The job part of the main screen: the open job with its rooms, single items and totals. Other screens work
 // on its members directly; after each of them has closed it is activated and reads all anew.
@@ -24,10 +24,12 @@ namespace tarvane {
 // blank, and what procedures put into them is lost.
 class JobScreen : public Screen {
  public:
-  // `folder`: the program folder. Opens nothing yet.
-  JobScreen(Host& host, std::filesystem::path folder);
+  static constexpr std::string_view kName = "Form1";
 
-  const std::filesystem::path& folder() const { return folder_; }
+  // `shop` must outlive the screen. Opens nothing yet.
+  JobScreen(Host& host, Shop& shop);
+
+  Shop& shop() const { return shop_; }
 
   // ---- Customer details, bound to the job.
   TextField RefNo{this, "RefNo"};  // given by the database, never typed
@@ -57,7 +59,7 @@ class JobScreen : public Screen {
       [this](int i) { return TickBox(this, std::string(kCheckListColumns[static_cast<std::size_t>(i)])); });
 
   // ---- Totals of the job, bound.
-  TextField GTotal{this, "G-Total"};  // rooms and single items, before tax and discount
+  TextField GTotal{this, "G-Total"};  // twelve rooms and the singles; no tax, no discount yet
   TextField DiscountPercent{this, "Ext4"};
   TextField Total{this, "4text"};  // after tax and discount
   TextField DepositPercent{this, "Ext1"};
@@ -91,7 +93,8 @@ class JobScreen : public Screen {
   std::array<Button, 3> CmdRooms = MakeFamily<3>([this](int i) {
     static constexpr std::array<std::string_view, 3> kCaptions = {"&Add Item", "&Update Item",
                                                                   "&Delete Item"};
-    return Button(this, "CmdRooms", kCaptions[static_cast<std::size_t>(i)], i);
+    const std::string_view caption = kCaptions[static_cast<std::size_t>(i)];
+    return i == 2 ? Button(this, "CmdRooms", caption, i) : Button(this, "CmdRooms", caption, kNotBuilt, i);
   });
 
   // ---- Pages, the summary panel, captions.
@@ -106,7 +109,6 @@ class JobScreen : public Screen {
       [this](int i) { return Label(this, "RoomSummaryTotal", i); });  // alias Label11
   std::array<Label, 1> Label8 =
       MakeFamily<1>([this](int i) { return Label(this, "Label8", i, "Messages"); });  // 0: the message line
-  Label RecordBar{this, "RecordBar"};            // "Record: 1 of 60"; alias Data1
   Label HistoryHeading{this, "HistoryHeading"};  // " Payments History for " and the customer
 
   // ---- Columns of Admin.
@@ -118,19 +120,27 @@ class JobScreen : public Screen {
 
   DataSource Data1;  // the jobs
   DataSource Data2;  // the settings row
+  RecordBar Records{this, Data1};
 
   // Opens the jobs and the settings. Faults where the database or a table can't be had.
   void OpenData();
   // Opens the table of the jobs anew; what waits unsaved is lost.
   void OpenJobs();
-  // Open jobs and settings, for a transaction around work that belongs together; nullptr before OpenData.
-  Database* database() { return database_ ? &*database_ : nullptr; }
-
-  // Reads the room in TxtRoomNum into its grid and total. Faults where that is no room.
+  // Fills grid and total of the current room (TxtRoomNum) from its stored lines. Faults where that is no
+  // room.
   void LoadRoom();
   void LoadSingles();
+  // All three, each for itself: a fault in one is told and the others still run.
+  void Refresh();
   // Works out all totals of the job. Faults where 5T(4) isn't a number.
   void cal();
+
+  // Drops what waits unsaved: the job is again as it stands on the disk, or gone where it was new.
+  void DiscardChanges();
+
+  // Takes the next order number: LastOrderNo, raised by one and committed at once, so that no number is given
+  // twice. Without a row of settings it is counted on the screen alone. Faults where it can't be stored.
+  std::string RaiseOrderNumber();
 
   // TxtRoomNum as an index from 0; faults where it is no room.
   std::size_t RoomIndex() const;
@@ -157,9 +167,11 @@ class JobScreen : public Screen {
   void Activate() override;
   int CurrentMember(std::string_view family) const override;
 
+  // Whether the worker has opened the job, and not just passes over it: then the totals that are worked out
+  // for it are its own, and are committed with the next move or save.
+  virtual bool JobIsOpen() const { return true; }
   // After another job has become current.
   void Repositioned();
-  void ShowRecordPosition();
   // Runs `moves` between jobs that the worker doesn't see: totals are worked out, and so stored, for the job
   // that is current in the end only.
   void MoveUnseen(const std::function<void()>& moves);
@@ -178,16 +190,19 @@ class JobScreen : public Screen {
   void SetRoomRules();
   void MarkHidden();
 
-  void ActivationTotals();
-  void FillBlankMoney();
   void SetDeposit();
   void RoomTabSelected();
   void TaxEntered();
   bool DeleteSelectedRow(HeldGrid& grid);
+  void RefreshSettings();
+  // For a job that isn't open, what `step` works out stays on the screen.
+  void WorkOut(const std::function<void()>& step);
+  void ShowSelectedItem();
 
-  std::filesystem::path folder_;
-  std::optional<Database> database_;
+  Shop& shop_;
+  // The stored text that each room's grid was made of; none where it is to be read first.
+  std::array<std::optional<std::string>, kRoomCount> grid_text_;
   bool unseen_ = false;
 };
 
-}  // namespace tarvane
+}  // namespace tarvane::job

@@ -2,23 +2,16 @@
 // just this order: the rounding follows from it.
 #include "job/job_screen.h"
 
-namespace tarvane {
+namespace tarvane::job {
 
 namespace {
 
 constexpr std::string_view kNothing = "0.00";
 constexpr std::string_view kUsualTax = "17.5";
 
-void SetMoney(TextField& field, double amount) { field.SetText(FormatNumber(amount, Mask::k0_00)); }
 void FormatMoney(TextField& field) { field.SetText(Format2(field.text())); }
 
 }  // namespace
-
-void JobScreen::FillBlankMoney() {
-  if (PrePaid.empty()) PrePaid.SetText(kNothing);
-  if (GTotal.empty()) GTotal.SetText(kNothing);
-  Balance.SetText(kNothing);
-}
 
 void JobScreen::cal() {
   if (Data1.HasRow()) {
@@ -27,17 +20,18 @@ void JobScreen::cal() {
     for (std::size_t room = 1; room < kRoomCount; ++room) add(RoomTotal[room]);
     add(TxtSubTotal);
     GTotal.SetText(NumberText(ParseLeading(sum)));
-    FillBlankMoney();
+    if (PrePaid.empty()) PrePaid.SetText(kNothing);
     FormatMoney(GTotal);
-    SetMoney(TxtTotalVat, GTotal.Number() * cboVAT.Number() / 100);
+    TxtTotalVat.SetNumber(GTotal.Number() * cboVAT.Number() / 100, Mask::k0_00);
     if (DiscountPercent.empty()) DiscountPercent.SetText(kDefaultDiscountPercent);
-    SetMoney(TxtTotalDiscount, (GTotal.Number() + TxtTotalVat.Number()) * DiscountPercent.Number() / 100);
-    SetMoney(Total, GTotal.Number() + TxtTotalVat.Number() - TxtTotalDiscount.Number());
+    TxtTotalDiscount.SetNumber((GTotal.Number() + TxtTotalVat.Number()) * DiscountPercent.Number() / 100,
+                               Mask::k0_00);
+    Total.SetNumber(GTotal.Number() + TxtTotalVat.Number() - TxtTotalDiscount.Number(), Mask::k0_00);
     if (DepositPercent.empty()) DepositPercent.SetText(TxtP2.empty() ? kDefaultDepositPercent : TxtP2.text());
     SetDeposit();
     FormatMoney(PrePaid);
     FormatMoney(Balance);
-    SetMoney(Balance, ParseStrict(Total.text()) - ParseStrict(PrePaid.text()));
+    Balance.SetNumber(ParseStrict(Total.text()) - ParseStrict(PrePaid.text()), Mask::k0_00);
     FormatMoney(TxtSubTotal);
     for (TextField& total : RoomTotal) FormatMoney(total);
   }
@@ -47,38 +41,13 @@ void JobScreen::cal() {
   }
 }
 
-void JobScreen::SetDeposit() { SetMoney(DepositPaid, Total.Number() * DepositPercent.Number() / 100); }
+void JobScreen::SetDeposit() {
+  DepositPaid.SetNumber(Total.Number() * DepositPercent.Number() / 100, Mask::k0_00);
+}
 
 void JobScreen::TaxEntered() {
   if (cboVAT.empty()) cboVAT.SetText(kUsualTax);
   cal();
 }
 
-void JobScreen::ActivationTotals() {
-  FillBlankMoney();
-  SetMoney(GTotal, TxtSubTotal.Number());
-  SetMoney(TxtTotalVat, GTotal.Number() * cboVAT.Number() / 100);
-  SetMoney(Total, GTotal.Number() + TxtTotalVat.Number());
-  FormatMoney(PrePaid);
-  FormatMoney(Balance);
-  SetMoney(Balance, ParseStrict(Total.text()) - ParseStrict(PrePaid.text()));
-}
-
-void JobScreen::Activate() {
-  // An event of its own: a fault in it doesn't end what follows the closing of the other screen.
-  Guard([this] {
-    if (Data2.HasRow()) {
-      // Another screen may have changed the settings.
-      Data2.rows().Resync();
-      Data2.LoadFields();
-    }
-    cboVAT.SetText("0");
-    ShowRecordPosition();
-    if (Data1.HasRow()) ActivationTotals();
-    LoadSingles();
-    LoadRoom();
-    cal();
-  });
-}
-
-}  // namespace tarvane
+}  // namespace tarvane::job

@@ -2,27 +2,14 @@
 #include <algorithm>
 
 #include "job/job_screen.h"
+#include "screen/busy.h"
+#include "text/trim.h"
 
-namespace tarvane {
-
-namespace {
-
-// Keeps the busy cursor while it lives.
-class Busy {
- public:
-  explicit Busy(Host& host) : host_(host) { host_.SetBusy(true); }
-  ~Busy() { host_.SetBusy(false); }
-  Busy(const Busy&) = delete;
-  Busy& operator=(const Busy&) = delete;
-
- private:
-  Host& host_;
-};
-
-}  // namespace
+namespace tarvane::job {
 
 void JobScreen::RewriteRoomText(std::size_t room_index) {
   RoomItems.at(room_index).SetText(WriteItemLines(RoomItemGrid.at(room_index).rows(), kRoomItemLayout));
+  grid_text_.at(room_index) = RoomItems.at(room_index).text();
 }
 
 void JobScreen::RewriteSinglesText() {
@@ -63,18 +50,20 @@ bool JobScreen::DeleteSelectedRow(HeldGrid& grid) {
 
 void JobScreen::DeleteFromRoom() {
   const std::size_t room = RoomIndex();
+  // A grid that wasn't made of the room as it is stored must never be written over it.
+  if (grid_text_[room] != RoomItems[room].text()) LoadRoom();
   const bool deleted = DeleteSelectedRow(RoomItemGrid[room]);
   RewriteRoomText(room);
-  LoadRoom();
-  cal();
-  if (deleted) ClearRoom(SelectedRoom());
+  RunEach({[this] { LoadRoom(); }, [this] { cal(); },
+           [this, deleted] {
+             if (deleted) ClearRoom(SelectedRoom());
+           }});
 }
 
 void JobScreen::DeleteSingleItem() {
   DeleteSelectedRow(SingleItemGrid);
   RewriteSinglesText();
-  LoadSingles();
-  cal();
+  RunEach({[this] { LoadSingles(); }, [this] { cal(); }});
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::job

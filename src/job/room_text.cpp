@@ -1,22 +1,14 @@
 #include "job/room_text.h"
 
+#include "text/trim.h"
+#include "text/utf8.h"
 #include "text_number/text_number.h"
 
-namespace tarvane {
+namespace tarvane::job {
 
 namespace {
 
 constexpr int kMostTokens = 63;
-
-bool ContinuesLetter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
-
-// Without its last character, which may be several bytes long.
-std::string_view WithoutLastLetter(std::string_view text) {
-  if (text.empty()) return text;
-  std::size_t end = text.size() - 1;
-  while (end > 0 && ContinuesLetter(text[end])) --end;
-  return text.substr(0, end);
-}
 
 }  // namespace
 
@@ -28,16 +20,10 @@ std::vector<std::string> SingleItemHeadings() {
   return {"Item No", "Qty", "Description", "Unit Price", "Total"};
 }
 
-std::string_view TrimSpaces(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 ItemLines::ItemLines(std::string_view text, const LineLayout& layout) : layout_(layout) {
   text = TrimSpaces(text);
   for (std::size_t end; (end = text.find('\n')) != std::string_view::npos; text.remove_prefix(end + 1)) {
-    ReadLine(WithoutLastLetter(text.substr(0, end)));
+    ReadLine(WithoutLastCharacter(text.substr(0, end)));
   }
 }
 
@@ -117,4 +103,4 @@ std::string CompileRoomSummary(const std::vector<HeldGrid::Row>& rows) {
   return summary;
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::job

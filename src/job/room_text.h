@@ -15,7 +15,7 @@
 //   room item:   Price|Description|Infomation|Dialogbox|Item No|EstPageInfo|
 //   single item: Qty|Description|Unit Price|Total|
 // Nothing escapes "|", CR and LF within a field.
-namespace tarvane {
+namespace tarvane::job {
 
 // How one kind of line is laid out. Columns count from 1; grid column 0 is the line number.
 struct LineLayout {
@@ -78,7 +78,4 @@ std::string WriteItemLines(const std::vector<HeldGrid::Row>& rows, const LineLay
 // most), each followed by CR LF. Text behind an item's last "~" begins the next item's first token.
 std::string CompileRoomSummary(const std::vector<HeldGrid::Row>& rows);
 
-// `text` without outer spaces.
-std::string_view TrimSpaces(std::string_view text);
-
-}  // namespace tarvane
+}  // namespace tarvane::job

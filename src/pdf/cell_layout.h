@@ -14,10 +14,10 @@ struct CellLine {
   bool wrapped = false;   // closed for want of room, not by a line end or the end of the text
 };
 
-// Breaks `codes` (WinAnsi) where the widths add up to more than `room`, in thousandths of the font size. A
-// line end closes a line; so does the last blank before the room is passed or, without one, the character
-// before; each line has a character at least. A line end at the end of the text is dropped. There is always
-// one line. Faults for code 0.
+// Breaks `codes` (WinAnsi) at line ends, and where the widths add up to more than `room` (the font size is
+// 1000): there at the last blank that fits or, where there is none, behind the last character that does, or
+// behind the first where not even that one fits. One line end at the very end counts for nothing, and even an
+// empty text has a line. Faults for code 0.
 std::vector<CellLine> BreakLines(std::string_view codes, const WidthTable& widths, double room);
 
 // The sides of one line's box, out of "L", "T", "R" and "B", for a cell with the border `border`: "1" for

@@ -1,5 +1,6 @@
 #include "pdf/document_objects.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 
@@ -11,10 +12,13 @@
 namespace tarvane::pdf {
 namespace {
 
-// By ViewSettings::Zoom. Object 3 is a fixed number: the first page's length object. Viewers open the first
-// page all the same, and the files have always said so.
-constexpr std::array<std::string_view, 4> kZoomLines = {
-    "/OpenAction [3 0 R /Fit]", "/OpenAction [3 0 R /FitH null]", "/OpenAction [3 0 R /XYZ null null 1]", ""};
+// What an open action names in place of the first page: its length object. Viewers open the first page all
+// the same, and the files have always said so.
+constexpr int kOpenedObject = 3;
+// How the open action shows its page, by ViewSettings::Zoom; empty for no action.
+constexpr std::array<std::string_view, 4> kZooms = {"/Fit", "/FitH null", "/XYZ null null 1", ""};
+// The fonts with characters of their own, which no encoding of letters fits.
+constexpr std::array<std::string_view, 2> kSymbolFonts = {"Symbol", "ZapfDingbats"};
 constexpr std::array<std::string_view, 4> kLayoutLines = {"/PageLayout /SinglePage", "/PageLayout /OneColumn",
                                                           "/PageLayout /TwoColumnLeft", ""};
 // From the lowest bit of the preferences up.
@@ -22,10 +26,10 @@ constexpr std::array<std::string_view, 6> kPreferenceLines = {"/HideMenubar true
                                                               "/HideWindowUI true", "/DisplayDocTitle true",
                                                               "/CenterWindow true", "/FitWindow true"};
 
-std::string DateText(const CalendarTime& time) {
+std::string DateText(const DateTime& time) {
   char text[80];
-  std::snprintf(text, sizeof text, "%04d%02d%02d%02d%02d%02d", time.year, time.month, time.day, time.hour,
-                time.minute, time.second);
+  std::snprintf(text, sizeof text, "%04d%02d%02d%02d%02d%02d", YearOf(time.day), MonthOf(time.day),
+                DayOfMonth(time.day), time.hour, time.minute, time.second);
   return text;
 }
 
@@ -51,7 +55,10 @@ void WriteFonts(ObjectFile& file, const DocumentParts& parts, Numbers& numbers) 
     LineBuffer object;
     object.Line(numbers.fonts.back(), " 0 obj").Line("<< /Type /Font").Line("/Subtype /", "Type1");
     object.Line("/Name /F", index).Line("/BaseFont /", NameBody(parts.fonts[index]));
-    object.Line("/Encoding /", "WinAnsiEncoding").Line(">>").Line("endobj");
+    const bool symbols =
+        std::find(kSymbolFonts.begin(), kSymbolFonts.end(), parts.fonts[index]) != kSymbolFonts.end();
+    if (!parts.strict || !symbols) object.Line("/Encoding /", "WinAnsiEncoding");
+    object.Line(">>").Line("endobj");
     file.Write({object.bytes()});
   }
 }
@@ -100,13 +107,14 @@ void WriteImages(ObjectFile& file, const DocumentParts& parts) {
   }
 }
 
-void AppendLinks(LineBuffer& object, const std::vector<Link>& links) {
+void AppendLinks(LineBuffer& object, const std::vector<Link>& links, bool strict) {
   if (links.empty()) return;
   object.Line("/Annots [");
   for (const Link& link : links) {
+    const std::string address = strict ? ToUri(link.address) : ToWinAnsi(link.address);
     object.Line("<</Type /Annot /Subtype /Link /Rect [", Fixed{link.area.left}, " ", Fixed{link.area.bottom},
                 " ", Fixed{link.area.right}, " ", Fixed{link.area.top}, "] /Border [0 0 0] ",
-                "/A <</S /URI /URI (", StringBody(link.address), ")>>>>");
+                "/A <</S /URI /URI (", StringBody(address), ")>>>>");
   }
   object.Line("]");
 }
@@ -119,7 +127,7 @@ void WritePageObjects(ObjectFile& file, const DocumentParts& parts, Numbers& num
     object.Line("/Parent ", numbers.pages, " 0 R")
         .Line("/MediaBox [ 0 0 ", page.width, " ", page.height, "]");
     object.Line("/Resources ", numbers.resources, " 0 R");
-    AppendLinks(object, page.links);
+    AppendLinks(object, page.links, parts.strict);
     // The stream of page p is object 2p, and its length object the one behind it.
     object.Line("/Contents ", 2 * numbers.page_objects.size(), " 0 R").Line(">>").Line("endobj");
     file.Write({object.bytes()});
@@ -145,32 +153,36 @@ void WriteOutlines(ObjectFile& file, const DocumentParts& parts, Numbers& number
     const std::pair<std::string_view, int> relations[] = {
         {"/Prev ", node.previous}, {"/Next ", node.next}, {"/First ", node.first}, {"/Last ", node.last}};
     LineBuffer object;
-    object.Line(file.NextNumber(), " 0 obj").Line("<</Title (", StringBody(bookmark.title), ")");
+    object.Line(file.NextNumber(), " 0 obj").Line("<</Title (", StringBody(ToPdfDoc(bookmark.title)), ")");
     object.Line("/Parent ", number_of(node.parent), " 0 R");
     for (const auto& [key, other] : relations) {
       if (other >= 0) object.Line(key, number_of(other), " 0 R");
     }
     object.Line("/Dest [", PageObjectOf(bookmark, numbers), " 0 R /XYZ 0 ", Fixed{bookmark.y}, " null]");
-    object.Line("/Count 0>>").Line("endobj");
+    // A negative count closes the bookmark; one without any below it has none.
+    if (parts.strict && node.children > 0) object.Line("/Count ", -node.children);
+    object.Line(parts.strict ? ">>" : "/Count 0>>").Line("endobj");
     file.Write({object.bytes()});
   }
   LineBuffer root;
   root.Line(file.NextNumber(), " 0 obj").Line("<</Type /Outlines /First ", number_of(outline.first), " 0 R");
+  if (parts.strict) root.Line("/Count ", outline.children);
   root.Line("/Last ", number_of(outline.last), " 0 R>>").Line("endobj");
   file.Write({root.bytes()});
 }
 
-void AppendView(LineBuffer& object, const ViewSettings& view, int outline_root) {
+void AppendView(LineBuffer& object, const DocumentParts& parts, const Numbers& numbers) {
+  const ViewSettings& view = parts.view;
+  const int opened = parts.strict ? numbers.page_objects.front() : kOpenedObject;
   if (view.zoom == ViewSettings::kPercentage) {
-    object.Line("/OpenAction [3 0 R /XYZ null null ", NumberText(view.percentage / 100), "]");
-  } else if (const auto line = kZoomLines[static_cast<size_t>(view.zoom)]; !line.empty()) {
-    object.Line(line);
+    object.Line("/OpenAction [", opened, " 0 R /XYZ null null ", NumberText(view.percentage / 100), "]");
+  } else if (const auto zoom = kZooms[static_cast<size_t>(view.zoom)]; !zoom.empty()) {
+    object.Line("/OpenAction [", opened, " 0 R ", zoom, "]");
   }
   if (const auto line = kLayoutLines[static_cast<size_t>(view.layout)]; !line.empty()) object.Line(line);
-  if (view.use_thumbs) object.Line("/PageMode /UseThumbs");
-  if (view.use_outlines && outline_root != 0) {
-    object.Line("/Outlines ", outline_root, " 0 R").Line("/PageMode /UseOutlines");
-  }
+  const bool outlines = view.use_outlines && numbers.outline_root != 0;
+  if (view.use_thumbs && !(parts.strict && outlines)) object.Line("/PageMode /UseThumbs");
+  if (outlines) object.Line("/Outlines ", numbers.outline_root, " 0 R").Line("/PageMode /UseOutlines");
   if (!view.preferences) return;
   object.Line("/ViewerPreferences<<");
   for (size_t bit = 0; bit < kPreferenceLines.size(); ++bit) {
@@ -183,7 +195,7 @@ int WriteCatalog(ObjectFile& file, const DocumentParts& parts, const Numbers& nu
   const int number = file.NextNumber();
   LineBuffer object;
   object.Line(number, " 0 obj").Line("<<").Line("/Type /Catalog").Line("/Pages ", numbers.pages, " 0 R");
-  AppendView(object, parts.view, numbers.outline_root);
+  AppendView(object, parts, numbers);
   object.Line(">>").Line("endobj");
   file.Write({object.bytes()});
   return number;
@@ -191,17 +203,19 @@ int WriteCatalog(ObjectFile& file, const DocumentParts& parts, const Numbers& nu
 
 }  // namespace
 
-void WriteInformation(ObjectFile& file, const Information& information, const CalendarTime& created) {
+void WriteInformation(ObjectFile& file, const Information& information, const DateTime& created,
+                      bool strict) {
+  const auto entry = [](const std::string& text) { return StringBody(ToPdfDoc(text)); };
   LineBuffer object;
   object.Line(file.NextNumber(), " 0 obj").Line("<<");
-  object.Line("/Producer (", StringBody(information.producer), ")");
-  object.Line("/Author (", StringBody(information.author), ")");
+  object.Line("/Producer (", entry(information.producer), ")");
+  object.Line("/Author (", entry(information.author), ")");
   object.Line("/CreationDate (D:", DateText(created), ")");
-  object.Line("/Creator (", StringBody(information.creator), ")");
-  object.Line("/Keywords (", StringBody(information.keywords), ")");
-  object.Line("/Subject (", StringBody(information.subject), ")");
-  object.Line("/Title (", StringBody(information.title), ")");
-  object.Line("/ModDate ()").Line(">>").Line("endobj");
+  object.Line("/Creator (", entry(information.creator), ")");
+  object.Line("/Keywords (", entry(information.keywords), ")");
+  object.Line("/Subject (", entry(information.subject), ")");
+  object.Line("/Title (", entry(information.title), ")");
+  object.Line("/ModDate (", strict ? "D:" + DateText(created) : "", ")").Line(">>").Line("endobj");
   file.Write({object.bytes()});
 }
 

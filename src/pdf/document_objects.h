@@ -6,19 +6,11 @@
 
 #include "pdf/jpeg.h"
 #include "pdf/object_file.h"
+#include "text/day.h"
 
 // The objects of a file that aren't a page's stream: what goes into them, and their writing. Places and sizes
 // here are points, from the bottom left of the page.
 namespace tarvane::pdf {
-
-struct CalendarTime {
-  int year = 1970;
-  int month = 1;
-  int day = 1;
-  int hour = 0;
-  int minute = 0;
-  int second = 0;
-};
 
 // Any of the texts may be empty.
 struct Information {
@@ -79,10 +71,11 @@ struct DocumentParts {
   const std::vector<Page>& pages;
   const std::vector<Bookmark>& bookmarks;
   const ViewSettings& view;
+  bool strict = false;  // nothing in it that a reader has to repair or pass over
 };
 
 // Object 1, behind the header.
-void WriteInformation(ObjectFile& file, const Information& information, const CalendarTime& created);
+void WriteInformation(ObjectFile& file, const Information& information, const DateTime& created, bool strict);
 // Fonts, pages, resources, images, page objects, outlines and catalog, the table and the end of the file.
 void WriteEnd(ObjectFile& file, const DocumentParts& parts);
 

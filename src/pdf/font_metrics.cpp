@@ -6,9 +6,12 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
+#include <unordered_map>
 
+#include "pdf/glyph_names.h"
 #include "pdf/text_encoding.h"
-#include "text_number/fault.h"
+#include "text/fault.h"
+#include "text/trim.h"
 #include "text_number/text_number.h"
 
 namespace tarvane::pdf {
@@ -29,13 +32,6 @@ uint64_t Ticks() {
 }
 #endif
 
-std::string_view Trim(std::string_view text) {
-  while (!text.empty() && (text.front() == ' ' || text.front() == '\t')) text.remove_prefix(1);
-  while (!text.empty() && (text.back() == ' ' || text.back() == '\t' || text.back() == '\r'))
-    text.remove_suffix(1);
-  return text;
-}
-
 // Takes the part of `text` before `mark` off its front, and the mark with it.
 std::string_view TakeUntil(std::string_view& text, char mark) {
   const size_t end = std::min(text.find(mark), text.size());
@@ -44,13 +40,19 @@ std::string_view TakeUntil(std::string_view& text, char mark) {
   return part;
 }
 
-// The number in the second of the blank-separated pieces of `field`; false without one.
-bool SecondNumber(std::string_view field, int& number) {
+// The second of the blank-separated pieces of `field`; empty without one.
+std::string_view SecondPiece(std::string_view field) {
   std::string_view rest = Trim(field);
   TakeUntil(rest, ' ');
   const std::string_view piece = Trim(rest);
+  return piece.substr(0, piece.find(' '));
+}
+
+// The number in the second piece; false without one.
+bool SecondNumber(std::string_view field, int& number) {
+  const std::string_view piece = SecondPiece(field);
   if (piece.empty()) return false;
-  const double value = std::trunc(ParseLeading(piece.substr(0, piece.find(' '))));
+  const double value = std::trunc(ParseLeading(piece));
   if (!(std::abs(value) <= std::numeric_limits<int16_t>::max())) return false;
   number = static_cast<int>(value);
   return true;
@@ -139,6 +141,31 @@ WidthTable ReadWidths(std::string_view metric_file) {
   return table;
 }
 
+WidthTable ReadWidthsByName(std::string_view metric_file) {
+  if (metric_file.find("EncodingScheme FontSpecific") != std::string_view::npos)
+    return ReadWidths(metric_file);
+  std::unordered_map<std::string_view, int> widths;
+  metric_file.remove_prefix(std::min(metric_file.find("StartCharMetrics"), metric_file.size()));
+  while (!metric_file.empty()) {
+    std::string_view line = TakeUntil(metric_file, '\n');
+    if (line.find("EndCharMetrics") != std::string_view::npos) break;
+    TakeUntil(line, ';');
+    int width = 0;
+    if (SecondNumber(TakeUntil(line, ';'), width)) widths[SecondPiece(TakeUntil(line, ';'))] = width;
+  }
+  WidthTable table;
+  for (int code = 1; code <= kLastCode; ++code) {
+    const auto found = widths.find(kWinAnsiGlyphs[static_cast<size_t>(code)]);
+    if (found != widths.end()) table.Set(code, found->second);
+  }
+  return table;
+}
+
+void FontFolder::MeasureByName(bool by_name) {
+  by_name_ = by_name;
+  read_.clear();
+}
+
 void FontFolder::Load(const std::string& folder) {
   std::vector<std::filesystem::path> found;
   for (std::filesystem::path& path : FilesOf(folder)) {
@@ -199,7 +226,7 @@ void FontFolder::Refresh(Font& font) {
     std::string text;
     if (!ReadWhole(font.path, text))
       throw Fault("The metric file " + PathText(font.path) + " can't be read.");
-    font.widths = ReadWidths(text);
+    font.widths = by_name_ ? ReadWidthsByName(text) : ReadWidths(text);
     font.stamp = stamp;
   }
   font.looked_at = Ticks();

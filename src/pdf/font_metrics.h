@@ -11,7 +11,7 @@
 
 namespace tarvane::pdf {
 
-// The widths of a font's characters by code, in thousandths of the font size; 0 for a code without one.
+// The widths of a font's characters by code, for a font size of 1000; 0 for a code without one.
 // Entry 0 isn't a width: code 0 stands outside the table.
 class WidthTable {
  public:
@@ -37,6 +37,9 @@ class WidthTable {
 // Reads the encoded characters of a metric file's text, up to "EndCharMetrics" or the first unencoded
 // character. Lines that hold no code and width are passed over. Never faults.
 WidthTable ReadWidths(std::string_view metric_file);
+// The same file by the names of its characters: the widths that readers find for WinAnsi codes. A font with
+// characters of its own has no such names and is read as above.
+WidthTable ReadWidthsByName(std::string_view metric_file);
 
 // A folder of metric files: the fonts of a document, and their widths.
 //
@@ -51,8 +54,11 @@ class FontFolder {
   // folder, everything stays as it was.
   void Load(const std::string& folder);
 
+  // Whether widths go by the names of characters or, as at first, by the codes of the metric files.
+  void MeasureByName(bool by_name);
+
   const std::string& folder() const { return folder_; }
-  // Each metric file's name without its last four characters.
+  // What the metric files are called, ".afm" (or whatever the last four characters are) left out.
   const std::vector<std::string>& names() const { return names_; }
   // The place of `name` in names(): the name itself, or the one that differs by hyphens alone ("TimesItalic"
   // and "Times-Italic"); 0, the first, for any other.
@@ -75,6 +81,7 @@ class FontFolder {
   void Refresh(Font& font);
 
   std::string folder_;
+  bool by_name_ = false;
   std::vector<std::string> names_;
   std::vector<std::filesystem::path> paths_;  // beside names_
   std::vector<Font> read_;

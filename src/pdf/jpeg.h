@@ -15,7 +15,7 @@ struct JpegInfo {
   // "DeviceGray", "DeviceRGB" or "DeviceCMYK"; empty for another number of components.
   std::string_view color_space;
   int bits_per_component = 0;  // for another number of components, eight times that number
-  // "Dots", "Dots/inch (DPI)" or "Dots/cm"; empty without a JFIF segment.
+  // "Dots", "Dots/inch (DPI)" and "Dots/cm" are what a JFIF segment may say; empty without one.
   std::string_view resolution_unit;
 };
 

@@ -18,7 +18,7 @@ struct Fixed {
   Mask mask = Mask::k0_00;
 };
 
-// Text gathered line by line. Each line ends with a carriage return and line feed.
+// Text gathered line by line, with "\r\n" behind each.
 class LineBuffer {
  public:
   // One line, made of texts, whole numbers and Fixed numbers.

@@ -12,7 +12,7 @@ struct SettingTexts {
 };
 
 // In the order of SettingError; the spelling and the blanks are the system's own.
-constexpr std::array<SettingTexts, 13> kSettingTexts = {{
+constexpr std::array<SettingTexts, 14> kSettingTexts = {{
     {"Zoom Mode - ", "Incorrect Zoom Mode : ", "Focus will be set to full-page zoom"},
     {"Layout Mode - ", "Layout incorrect : ", "Layout will be set to simple single page."},
     {"Error in measurement unit - ", "Incorrect Unit of Measure : ", "Using centimeter "},
@@ -26,6 +26,7 @@ constexpr std::array<SettingTexts, 13> kSettingTexts = {{
     {"Line Style - ", "Line style set incorrectly : ", "Line style set to solid."},
     {"Font name - ", "Font name set incorrectly : ", "Font set to Times New Roman."},
     {"Alignment - ", "Invalid alignment set. : ", "Using left alignment."},
+    {"Number - ", "Number out of range : ", "Using the nearest one that PDF readers take."},
 }};
 
 struct ImageTexts {
@@ -36,13 +37,15 @@ struct ImageTexts {
 };
 
 // In the order of ImageError. Only the first tells the path.
-constexpr std::array<ImageTexts, 5> kImageTexts = {{
+constexpr std::array<ImageTexts, 6> kImageTexts = {{
     {"Image File - ", "Invalid filename specified.", "\n", " does not have an extension"},
     {"Image File - ", "Impossible to include image in PDF file.\nOnly JPEG images are supported.", "", ""},
     {"File Image - ", "Cannot add image to PDF file.\nFile Image is non JPEG", "", ""},
     {"File Image - ", "Cannot add iamge to PDF file.\nInvalid JPEG marker", "", ""},
     {"File Image - ",
      "Cannot add image to PDF file.\nInvalid image resolution\nValid resolution is: 0, 1, 2.", "", ""},
+    {"File Image - ", "Cannot add image to PDF file.\nIts colours are of a kind that PDF readers don't show.",
+     "", ""},
 }};
 
 std::string Joined(std::initializer_list<std::string_view> pieces) {
@@ -63,6 +66,11 @@ Message ImageMessage(ImageError error, std::string_view path) {
   Message message{Joined({kWriterName, texts.title}), std::string(texts.text), Icon::kStop};
   if (!texts.after_path.empty()) message.text += Joined({texts.before_path, path, texts.after_path});
   return message;
+}
+
+Message NotWrittenMessage(std::string_view path) {
+  return {Joined({"PDF file - ", kWriterName}), Joined({"The PDF file couldn't be written: ", path}),
+          Icon::kStop};
 }
 
 Message GeneratedMessage() { return {Joined({"Generated PDF file - ", kWriterName}), "PDF file generated."}; }

@@ -38,18 +38,27 @@ enum class SettingError {
   kLineStyle,
   kFont,
   kAlignment,
+  kNumber,  // a length, a place or an angle that no reader takes
 };
 
 // What is said of the bad `value` of a setting: the value, and the fallback that is taken.
 Message SettingMessage(SettingError error, std::string_view value);
 
-// The images that are refused.
-enum class ImageError { kNoExtension, kNotJpegName, kNotJpeg, kInvalidMarker, kInvalidResolution };
+// The images that are refused; the last in strict mode only.
+enum class ImageError {
+  kNoExtension,
+  kNotJpegName,
+  kNotJpeg,
+  kInvalidMarker,
+  kInvalidResolution,
+  kUnusualColors
+};
 
 // Why the image at `path` isn't in the document.
 Message ImageMessage(ImageError error, std::string_view path);
 
-// That the file is finished.
+// That the file is finished, and that the one at `path` couldn't be written.
 Message GeneratedMessage();
+Message NotWrittenMessage(std::string_view path);
 
 }  // namespace tarvane::pdf

@@ -23,6 +23,9 @@ void ObjectFile::Open(const std::string& path) {
   file_.clear();
   file_.rdbuf()->pubsetbuf(nullptr, 0);  // the pending bytes are buffer enough
   file_.open(ToPath(path), std::ios::binary | std::ios::trunc);
+  put_ = 0;
+  from_the_start_ = false;
+  written_ = false;
 }
 
 void ObjectFile::Close() {
@@ -31,7 +34,8 @@ void ObjectFile::Close() {
 }
 
 void ObjectFile::Put(std::string_view bytes) {
-  static constexpr size_t kEnough = 64 * 1024;
+  static constexpr size_t kEnough = size_t{64} * 1024;
+  put_ += static_cast<int64_t>(bytes.size());
   if (pending_.size() + bytes.size() > kEnough) Flush();
   if (bytes.size() > kEnough) {
     file_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
@@ -45,11 +49,14 @@ void ObjectFile::Flush() {
   pending_.clear();
 }
 
-void ObjectFile::Begin() {
+void ObjectFile::Begin(bool strict) {
+  strict_ = strict;
+  from_the_start_ = file_.is_open() && put_ == 0;
+  written_ = false;
   last_number_ = 0;
   running_offset_ = 0;
   offsets_.clear();
-  Record({"%PDF-", "1.3"});
+  Record({"%PDF-", "1.3", strict_ ? "\r\n%\xE2\xE3\xCF\xD3" : ""});
 }
 
 void ObjectFile::Write(std::initializer_list<std::string_view> pieces) { Record(pieces); }
@@ -59,24 +66,28 @@ void ObjectFile::Record(std::initializer_list<std::string_view> pieces) {
     Put(piece);
     running_offset_ += static_cast<int64_t>(piece.size());
   }
-  Put(kLineEnd);  // not in the running offset
+  Put(kLineEnd);
+  if (strict_) running_offset_ += static_cast<int64_t>(kLineEnd.size());
   offsets_.push_back(running_offset_);
 }
 
 void ObjectFile::Finish(int catalog) {
   LineBuffer table;
-  // Both counts are the last object's number, one less than the entries that follow.
-  table.Line("xref").Line("0 ", last_number_).Line("0000000000 65535 f");
+  // One less than the entries that follow, but in a strict file.
+  const int entries = last_number_ + (strict_ ? 1 : 0);
+  table.Line("xref").Line("0 ", entries).Line("0000000000 65535 f");
   for (int number = 1; number <= last_number_ && number <= static_cast<int>(offsets_.size()); ++number) {
     table.Line(TenDigits(offsets_[number - 1]), " 00000 n");
   }
-  table.Line("trailer").Line("<< /Size ", last_number_).Line("/Root ", catalog, " 0 R");
+  table.Line("trailer").Line("<< /Size ", entries).Line("/Root ", catalog, " 0 R");
   table.Line("/Info 1 0 R").Line(">>").Line("startxref");
   table.Line(std::to_string(offsets_.empty() ? 0 : offsets_.back()));
   Record({table.bytes()});
   Put("%%EOF");
   Put(kLineEnd);
   Close();
+  if (from_the_start_) written_ = file_.good();
+  from_the_start_ = false;
 }
 
 }  // namespace tarvane::pdf

@@ -10,12 +10,13 @@ namespace tarvane::pdf {
 
 // The last stage: numbered objects on their way into the file, and the table of where they are.
 //
-// The table is deliberately short. What is recorded for an object is the sum of the lengths handed over
-// before it; the line end that closes each write, and the one behind the header, aren't counted, so that
-// entry k falls short by 2 for each earlier write. Viewers rebuild the table; the files have always been so
-// and stay so.
+// The table is deliberately short. An object's entry sums up what was handed over before it and leaves out
+// the line ends that the file adds behind each write and behind the header: two bytes a write. Viewers
+// rebuild the table; the files have always been so and stay so. A strict file counts all its bytes, says how
+// many entries its table has, and bears bytes above 127 behind its header, which tell mailers that it isn't
+// text.
 //
-// A path that can't be written is passed over: the writes then have no effect.
+// Where the path can't be written nothing happens, and written() says so.
 class ObjectFile {
  public:
   ObjectFile() = default;
@@ -27,13 +28,15 @@ class ObjectFile {
   void Open(const std::string& path);
   void Close();
   // Forgets the objects and writes the header line.
-  void Begin();
+  void Begin(bool strict);
   int NextNumber() { return ++last_number_; }
   int last_number() const { return last_number_; }
-  // Writes the object of the next number in turn. Its bytes may come in pieces.
+  // Adds the object whose turn it is. Its bytes may come in pieces.
   void Write(std::initializer_list<std::string_view> pieces);
   // Writes the cross-reference table, the trailer and the last line, and closes the file.
   void Finish(int catalog);
+  // True once the file was finished and the system took every byte of it.
+  bool written() const { return written_; }
 
  private:
   void Record(std::initializer_list<std::string_view> pieces);
@@ -43,6 +46,10 @@ class ObjectFile {
   std::ofstream file_;
   std::string pending_;  // bytes on their way to the file
   int last_number_ = 0;
+  bool strict_ = false;
+  int64_t put_ = 0;              // bytes since the file was opened
+  bool from_the_start_ = false;  // the header is the first of them
+  bool written_ = false;
   int64_t running_offset_ = 0;
   std::vector<int64_t> offsets_;
 };

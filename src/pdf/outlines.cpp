@@ -18,6 +18,7 @@ Outline LinkOutline(const std::vector<int>& levels) {
     if (node.previous >= 0) outline.nodes[node.previous].next = index;
     if (first < 0) first = index;
     last = index;
+    ++(node.parent < 0 ? outline.children : outline.nodes[node.parent].children);
     open.resize(level);
     open.push_back(index);
   }

@@ -12,12 +12,14 @@ struct OutlineNode {
   int next = -1;
   int first = -1;
   int last = -1;
+  int children = 0;  // those right below it
 };
 
 struct Outline {
   std::vector<OutlineNode> nodes;
   int first = -1;  // of the root
   int last = -1;
+  int children = 0;
 };
 
 // The tree of bookmarks in document order with these levels, 0 the outermost. A level that skips one is taken

@@ -34,6 +34,13 @@ double Within(double part) { return part > 0 ? std::min(part, kLargestPart) : 0;
 
 }  // namespace
 
+std::string ShortText(double number) {
+  static constexpr double kLargestPlain = 1e15;
+  if (std::abs(number) < kLargestPlain) return NumberText(number);
+  char text[32];
+  return std::string(text, std::to_chars(text, text + sizeof text, number).ptr);
+}
+
 std::optional<Rgb> Color::Parts() const {
   if (const auto* rgb = std::get_if<Rgb>(&value_)) {
     return Rgb{Within((*rgb)[0]), Within((*rgb)[1]), Within((*rgb)[2])};

@@ -10,6 +10,10 @@
 
 namespace tarvane::pdf {
 
+// A number as messages name it: in plain decimals, and in short where those would be hundreds, or where it is
+// no number at all.
+std::string ShortText(double number);
+
 // The value of a setting as a caller gives it: a number or a text. Which of them a setting takes, and what
 // becomes of the others, is told where it is set.
 class Setting {
@@ -28,7 +32,7 @@ class Setting {
   }
   // The text, or the number as text.
   std::string Text() const {
-    return IsNumber() ? NumberText(std::get<double>(value_)) : std::get<std::string>(value_);
+    return IsNumber() ? ShortText(std::get<double>(value_)) : std::get<std::string>(value_);
   }
 
  private:

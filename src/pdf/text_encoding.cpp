@@ -12,13 +12,36 @@ constexpr std::array<char16_t, 32> kHighCodes = {
     0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
+// What PDFDocEncoding has at the codes 0x18 to 0x1F, and 0x80 to 0xA0.
+constexpr std::array<char16_t, 8> kAccents = {0x02D8, 0x02C7, 0x02C6, 0x02D9, 0x02DD, 0x02DB, 0x02DA, 0x02DC};
+constexpr std::array<char16_t, 33> kDocumentCodes = {
+    0x2022, 0x2020, 0x2021, 0x2026, 0x2014, 0x2013, 0x0192, 0x2044, 0x2039, 0x203A, 0x2212,
+    0x2030, 0x201E, 0x201C, 0x201D, 0x2018, 0x2019, 0x201A, 0x2122, 0xFB01, 0xFB02, 0x0141,
+    0x0152, 0x0160, 0x0178, 0x017D, 0x0131, 0x0142, 0x0153, 0x0161, 0x017E, 0,      0x20AC};
+constexpr char32_t kHardBlank = 0xA0;
+constexpr char32_t kSoftHyphen = 0xAD;
+constexpr char kHexDigits[] = "0123456789ABCDEF";
 constexpr char32_t kNoCharacter = 0xFFFFFFFF;
 
-char CodeOf(char32_t character) {
+// The place of `character` in a table of codes from `first` on; "?" where it has none.
+template <typename Codes>
+char Placed(const Codes& codes, int first, char32_t character) {
+  const auto found = std::find(codes.begin(), codes.end(), character);
+  return found == codes.end() ? '?' : static_cast<char>(first + (found - codes.begin()));
+}
+
+char WinAnsiCode(char32_t character) {
   if (character < 0x80 || (character >= 0xA0 && character <= 0xFF)) return static_cast<char>(character);
-  const auto found = std::find(kHighCodes.begin(), kHighCodes.end(), character);
-  if (character == 0 || found == kHighCodes.end()) return '?';
-  return static_cast<char>(0x80 + (found - kHighCodes.begin()));
+  return Placed(kHighCodes, 0x80, character);
+}
+
+char PdfDocCode(char32_t character) {
+  if (character == kHardBlank) return ' ';
+  if (character == kSoftHyphen) return '-';
+  const bool same = character < 0x18 || (character >= 0x20 && character < 0x7F);
+  if (same || (character > 0xA0 && character <= 0xFF)) return static_cast<char>(character);
+  const char accent = Placed(kAccents, 0x18, character);
+  return accent != '?' ? accent : Placed(kDocumentCodes, 0x80, character);
 }
 
 // Takes one character off the front of `text`; of broken UTF-8 one byte.
@@ -83,40 +106,50 @@ std::string WithBackslashes(std::string_view text, std::string_view for_backslas
   return out;
 }
 
+// `text` with `mark` and two digits for what isn't visible ASCII or is among `special`.
+std::string WithHexCodes(std::string_view text, std::string_view special, char mark) {
+  std::string out;
+  for (const char c : text) {
+    const auto code = static_cast<uint8_t>(c);
+    if (code > 0x20 && code < 0x7F && special.find(c) == std::string_view::npos) {
+      out += c;
+    } else {
+      out += {mark, kHexDigits[code >> 4], kHexDigits[code & 15]};
+    }
+  }
+  return out;
+}
+
 }  // namespace
 
 std::string ToWinAnsi(std::string_view utf8) {
   if (Ascii(utf8)) return std::string(utf8);
   std::string codes;
   codes.reserve(utf8.size());
-  while (!utf8.empty()) codes += CodeOf(TakeCharacter(utf8));
+  while (!utf8.empty()) codes += WinAnsiCode(TakeCharacter(utf8));
   return codes;
 }
+
+std::string ToPdfDoc(std::string_view utf8) {
+  std::string codes;
+  while (!utf8.empty()) codes += PdfDocCode(TakeCharacter(utf8));
+  return codes;
+}
+
+std::string ToUri(std::string_view utf8) { return WithHexCodes(utf8, "\"<>\\^`{|}", '%'); }
 
 std::string EscapePageText(std::string_view codes) {
   // A backslash is doubled and each pair doubled again; readers of the files are used to it.
   return WithBackslashes(codes, "\\\\\\\\");
 }
 
-std::string StringBody(std::string_view utf8) {
-  std::string codes = ToWinAnsi(utf8);
-  if (codes.find('\\') == std::string::npos && Pairs(codes)) return codes;
-  return WithBackslashes(codes, "\\\\");
+std::string EscapeString(std::string_view codes) { return WithBackslashes(codes, "\\\\"); }
+
+std::string StringBody(std::string_view codes) {
+  if (codes.find('\\') == std::string::npos && Pairs(codes)) return std::string(codes);
+  return EscapeString(codes);
 }
 
-std::string NameBody(std::string_view text) {
-  static constexpr std::string_view kEndsName = "()<>[]{}/%#";
-  static constexpr char kDigits[] = "0123456789ABCDEF";
-  std::string out;
-  for (const char c : text) {
-    const auto code = static_cast<uint8_t>(c);
-    if (code > 0x20 && code < 0x7F && kEndsName.find(c) == std::string_view::npos) {
-      out += c;
-    } else {
-      out += {'#', kDigits[code >> 4], kDigits[code & 15]};
-    }
-  }
-  return out;
-}
+std::string NameBody(std::string_view text) { return WithHexCodes(text, "()<>[]{}/%#", '#'); }
 
 }  // namespace tarvane::pdf

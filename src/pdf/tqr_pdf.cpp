@@ -8,13 +8,6 @@
 
 namespace tarvane::pdf {
 
-CalendarTime LocalTime() {
-  const std::time_t now = std::time(nullptr);
-  std::tm parts{};
-  localtime_r(&now, &parts);
-  return {parts.tm_year + 1900, parts.tm_mon + 1, parts.tm_mday, parts.tm_hour, parts.tm_min, parts.tm_sec};
-}
-
 tqrPDF::tqrPDF(Surroundings surroundings) : surroundings_(std::move(surroundings)) { PDFInit(); }
 
 void tqrPDF::PDFFileName(const std::string& path) {
@@ -35,9 +28,11 @@ void tqrPDF::PDFBeginDoc() {
   images_.clear();
   bookmarks_.clear();
   last_image_ = {};
+  number_told_ = false;
   MoveToMargins();
-  file_.Begin();
-  WriteInformation(file_, information_, surroundings_.now ? surroundings_.now() : CalendarTime{});
+  file_.Begin(strict_);
+  WriteInformation(file_, information_,
+                   surroundings_.now ? surroundings_.now() : DateTime{MakeDay(1970, 1, 1)}, strict_);
   OpenStream();
   DrawWatermark();
 }
@@ -54,22 +49,25 @@ void tqrPDF::OpenStream() {
 }
 
 // Writes the stream object of the page in progress and its length object. Their closing markers go behind
-// `marker_lines`: for a page that another follows that is the object itself, which makes its length 12
-// greater than the stream is; for the last page it is the page buffer, which is never written again.
-// Deliberate.
+// `marker_lines`. A page that another follows passes the object itself, whose length then comes out 12 too
+// great; the last page passes the page buffer, which is cleared without reaching the file. Deliberate, but
+// for strict files: there the markers are dropped throughout, and the line end before "endstream" isn't
+// counted.
 void tqrPDF::CloseStream(LineBuffer& marker_lines) {
   static constexpr size_t kBeforeStream = 6;
   static constexpr size_t kStreamWord = std::string_view("Stream").size();
   static constexpr size_t kEndWord = std::string_view("endstream").size();
   static constexpr size_t kBehindStream = 6;
+  const size_t drawn = page_.size() + links_.size();
   object_.Take(page_);
   object_.Take(links_);
   page_.Clear();
   links_.Clear();
+  if (strict_) object_.Line();
   object_.Line("endstream").Line("endobj");
   marker_lines.Line(kObjectMarker.close);
   const size_t framing = head_length_ + kBeforeStream + kStreamWord + kEndWord + kBehindStream;
-  const size_t length = object_.size() - std::min(framing, object_.size());
+  const size_t length = strict_ ? drawn : object_.size() - std::min(framing, object_.size());
   file_.Write({object_.bytes()});
   object_.Clear();
   object_.Line(file_.NextNumber(), " 0 obj").Line(length).Line("endobj");
@@ -81,7 +79,7 @@ void tqrPDF::PDFNewPage() {
   PDFEndPage();
   MoveToMargins();
   ++page_count_;
-  CloseStream(object_);
+  CloseStream(strict_ ? page_ : object_);
   pages_.emplace_back();  // without a size: that of the page before holds until it has its own
   OpenStream();
   DrawWatermark();
@@ -90,7 +88,11 @@ void tqrPDF::PDFNewPage() {
 void tqrPDF::PDFEndDoc() {
   PDFEndPage();
   CloseStream(page_);
-  WriteEnd(file_, {fonts_.names(), images_, pages_, bookmarks_, view_});
+  WriteEnd(file_, {fonts_.names(), images_, pages_, bookmarks_, view_, strict_});
+  if (!PDFWritten()) {
+    if (confirm_ || view_after_) Show(NotWrittenMessage(file_path_));
+    return;
+  }
   if (confirm_) Show(GeneratedMessage());
   if (view_after_ && surroundings_.view) surroundings_.view(file_path_);
 }

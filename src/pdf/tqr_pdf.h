@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -13,17 +14,15 @@
 #include "pdf/messages.h"
 #include "pdf/object_file.h"
 #include "pdf/setting.h"
+#include "text/day.h"
 
 namespace tarvane::pdf {
-
-// The local time of this machine.
-CalendarTime LocalTime();
 
 // What the writer needs from outside. Any of it may be left out: messages then go nowhere, and nothing is
 // viewed.
 struct Surroundings {
   MessageSink* messages = nullptr;
-  std::function<CalendarTime()> now = LocalTime;
+  std::function<DateTime()> now = LocalNow;
   std::function<void(const std::string& path)> view;  // hands a finished file to the platform's viewer
   std::string program_folder;                         // where metric files are looked for by default
 };
@@ -41,6 +40,11 @@ enum ViewerPreference {
   kCenterWindow = 16,
   kFitWindow = 32
 };
+
+// The furthest that a place or a length may reach, in points: what the readers of this version of the format
+// take for a number.
+inline constexpr double kFarthest = 32767;
+
 enum FontFamily { kArial, kCourier, kTimes, kSymbol, kZapfDingbats };
 enum FontStyle { kNormal = 0, kBold = 1, kItalic = 2, kBoldItalic = 3 };
 enum LineStyle { kSolid, kDashed, kDashDot, kDashDotDot };
@@ -54,12 +58,15 @@ struct Point {
 
 // Writes one PDF 1.3 file: settings, then PDFBeginDoc, drawing and PDFNewPage, then PDFEndDoc.
 //
-// Places and lengths are in user units (points, millimetres or centimetres, PDFSetUnit; centimetres at first)
-// from the top left of the page; font sizes are points. Texts are UTF-8 and are written in WinAnsi, "?" for
-// what has no place there. A bad setting shows a message and takes a fallback. Nothing guards the order of
-// calls: what is drawn before PDFBeginDoc is dropped, and what comes behind PDFEndDoc reaches no file. A file
-// that can't be written is passed over. Only measuring text faults: without a metric file for the font, for a
-// text with the character 0, and for one whose width is out of all bounds.
+// Places and lengths are in user units (points, millimetres or centimetres, PDFSetUnit; centimetres at
+// first), places to the right of the page's upper left corner and down from it; font sizes are points. Texts
+// are UTF-8 and are written in WinAnsi, "?" for what has no place there; information and bookmarks are
+// written in PDFDocEncoding. A bad setting shows a message and takes a fallback. A place, length or angle
+// that is no number counts as 0, and one that is out of readers' range as the nearest within; the first of a
+// document shows a message. Nothing guards the order of calls: what is drawn before PDFBeginDoc is dropped,
+// and what comes behind PDFEndDoc reaches no file. A file that can't be written is passed over; PDFWritten
+// tells. Only measuring text faults: without a metric file for the font, for a text with the character 0, and
+// for one whose width is out of all bounds.
 //
 // A document belongs to one thread at a time; different documents may be written by different threads.
 class tqrPDF {
@@ -95,9 +102,16 @@ class tqrPDF {
   void PDFUseOutlines(bool use) { view_.use_outlines = use; }
   // A sum of ViewerPreference.
   void PDFSetViewerPreferences(int flags) { view_.preferences = flags; }
-  // After the end: tell that the file is made; open it in the viewer.
+  // After the end: tell that the file is made; open it in the viewer. Where it couldn't be written, either
+  // shows a message that says so instead.
   void PDFConfirm(bool confirm) { confirm_ = confirm; }
   void PDFView(bool view) { view_after_ = view; }
+  // Whether the last document went into its file whole: false until PDFEndDoc, and where the system refused
+  // any of its bytes.
+  bool PDFWritten() const { return file_.written(); }
+  // For files that leave the house: the same operations give a file with nothing in it that a reader has to
+  // repair, and texts are measured as readers set them. To be set before anything else; off at first.
+  void PDFStrict(bool strict);
   // The text behind every page's content.
   void PDFWatermark(std::string text);
 
@@ -106,8 +120,9 @@ class tqrPDF {
   int PDFGetUnit() const { return unit_; }
   // An Orientation; the page in progress swaps its sides when it changes.
   void PDFOrientation(const Setting& orientation);
-  // The size of the page in progress: a Format, or the width and height in points. Both are meant upright and
-  // swapped in landscape. Pages behind it take its size.
+  // The size of the page in progress: a Format, turned in landscape; or the width and height in points, as
+  // they are. Pages behind it take its size. A side is 3 to 14,400 points long; another makes the page A4,
+  // with the message of a bad format.
   void PDFFormatPage(const Setting& format);
   void PDFFormatPage(double width, double height);
   void PDFPageHeight(double height);
@@ -157,7 +172,7 @@ class tqrPDF {
   void PDFDrawLine(double x1, double y1, double x2, double y2);
   // The link is an address; empty for none.
   void PDFDrawRectangle(double x, double y, double width, double height, const std::string& link = "");
-  // Within the box with its top left at x, y; a height of 0 makes a circle.
+  // Fills the box whose upper left corner is x, y; without a height it is round.
   void PDFDrawEllipse(double width, double x, double y, double height = 0);
   // Without points nothing is drawn.
   void PDFDrawPolygon(const std::vector<Point>& points);
@@ -168,7 +183,7 @@ class tqrPDF {
   // The width in points of `text` at `size`. An empty font is the current one.
   double PDFGetStringWidth(std::string_view text, std::string_view font, double size);
   // Degrees, against the clock, for the next text only.
-  void PDFSetRotation(double degrees) { pen_.rotation = degrees; }
+  void PDFSetRotation(double degrees) { pen_.rotation = Sane(degrees); }
   // At x plus the left margin, and y as the base line; 0 stands for the current place. The current x moves
   // behind the text. A rotated text stands at x itself.
   void PDFTextOut(const std::string& text, double x = 0, double y = 0);
@@ -233,8 +248,16 @@ class tqrPDF {
   int Choice(const Setting& value, int count, SettingError error, int fallback) const;
   Rgb RgbOf(const Color& color, SettingError error) const;
 
-  double PointsX(double x) const { return x * scale_; }
-  double PointsY(double y) const { return SizedPage().height - y * scale_; }
+  // `number`, which is in units of `unit` points, within readers' range.
+  double Sane(double number, double unit = 1) {
+    return std::abs(number * unit) <= kFarthest ? number : Replaced(number, unit);
+  }
+  double Replaced(double number, double unit);
+  void TellNumber(double number);
+  double PointsX(double x) { return Sane(x * scale_); }
+  double PointsY(double y) { return Sane(SizedPage().height - y * scale_); }
+  double Length(double length) { return Sane(length * scale_); }
+  void SizePage(double width, double height);
   const Page& SizedPage() const;
   Page& OwnPage();
   void MoveToMargins();
@@ -242,6 +265,9 @@ class tqrPDF {
   void CloseStream(LineBuffer& marker_lines);
   void DrawWatermark();
 
+  // The line width stands behind the path, where it shapes the next one; in strict mode before it.
+  void BeginPath();
+  void EndPath(std::string_view paint);
   void AppendLine(const Marker& marker, double x1, double y1, double x2, double y2);
   void AppendModeColors();
   void RecordLink(const Area& area, const std::string& address);
@@ -263,6 +289,8 @@ class tqrPDF {
   ViewSettings view_;
   bool confirm_ = false;
   bool view_after_ = false;
+  bool strict_ = false;
+  bool number_told_ = false;
   bool watermark_on_ = false;
   std::string watermark_;
 

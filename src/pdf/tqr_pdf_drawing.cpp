@@ -27,12 +27,25 @@ void tqrPDF::AppendModeColors() {
   if (ModeOf(pen_.draw_mode).line_color) page_.Line(pen_.line_color);
 }
 
+void tqrPDF::BeginPath() {
+  if (strict_) page_.Line(Fixed{Length(pen_.line_width)}, " w");
+}
+
+void tqrPDF::EndPath(std::string_view paint) {
+  if (strict_) {
+    page_.Line(paint);
+  } else {
+    page_.Line(Fixed{Length(pen_.line_width)}, " w ", paint);
+  }
+}
+
 void tqrPDF::AppendLine(const Marker& marker, double x1, double y1, double x2, double y2) {
   page_.Line(pen_.line_color);
   page_.Line(marker.open);
+  BeginPath();
   page_.Line(Fixed{PointsX(x1)}, " ", Fixed{PointsY(y1)}, " m");
   page_.Line(Fixed{PointsX(x2)}, " ", Fixed{PointsY(y2)}, " l");
-  page_.Line(Fixed{pen_.line_width * scale_}, " w S");
+  EndPath("S");
   page_.Line(marker.close);
 }
 
@@ -51,9 +64,10 @@ void tqrPDF::PDFDrawLine(double x1, double y1, double x2, double y2) {
 void tqrPDF::PDFDrawRectangle(double x, double y, double width, double height, const std::string& link) {
   page_.Line(kRectangleMarker.open);
   AppendModeColors();
-  page_.Line(Fixed{PointsX(x)}, " ", Fixed{PointsY(y)}, " ", Fixed{width * scale_}, " ",
-             Fixed{-height * scale_}, " re ", ModeOf(pen_.draw_mode).rectangle);
-  page_.Line(Fixed{pen_.line_width * scale_}, " w S");
+  BeginPath();
+  page_.Line(Fixed{PointsX(x)}, " ", Fixed{PointsY(y)}, " ", Fixed{Length(width)}, " ",
+             Fixed{Length(-height)}, " re ", ModeOf(pen_.draw_mode).rectangle);
+  if (!strict_) EndPath("S");
   if (!link.empty()) RecordLink(x, y, width, height, link);
   page_.Line(kRectangleMarker.close);
 }
@@ -72,6 +86,7 @@ void tqrPDF::PDFDrawEllipse(double width, double x, double y, double height) {
     return Fixed{PointsY(y + half_height + point.y * half_height)};
   };
   AppendModeColors();
+  BeginPath();
   const Point top_middle{0, -1};
   page_.Line(at_x(top_middle), " ", at_y(top_middle), " m");
   for (const auto& [first, second, end] : kCurves) {
@@ -79,19 +94,20 @@ void tqrPDF::PDFDrawEllipse(double width, double x, double y, double height) {
                at_y(end), " c");
   }
   page_.Line(ModeOf(pen_.draw_mode).shape);
-  page_.Line(Fixed{pen_.line_width * scale_}, " w");
+  if (!strict_) page_.Line(Fixed{Length(pen_.line_width)}, " w");
 }
 
 void tqrPDF::PDFDrawPolygon(const std::vector<Point>& points) {
   if (points.empty()) return;
   page_.Line(kPolygonMarker.open);
   AppendModeColors();
+  BeginPath();
   for (size_t index = 0; index < points.size(); ++index) {
     page_.Line(Fixed{PointsX(points[index].x)}, " ", Fixed{PointsY(points[index].y)},
                index == 0 ? " m" : " l");
   }
   page_.Line("h");
-  page_.Line(Fixed{pen_.line_width * scale_}, " w ", ModeOf(pen_.draw_mode).shape);
+  EndPath(ModeOf(pen_.draw_mode).shape);
   page_.Line(kPolygonMarker.close);
 }
 
@@ -109,6 +125,10 @@ void tqrPDF::PDFImage(const std::string& path, double x, double y, double& width
     return Show(ImageMessage(ImageError::kNotJpegName, path));
   Image image;
   if (!ReadImage(path, image)) return;
+  if (strict_ && (image.info.color_space.empty() || image.info.bits_per_component != 8))
+    return Show(ImageMessage(ImageError::kUnusualColors, path));
+  width = Sane(width, scale_);
+  height = Sane(height, scale_);
   if (width == 0 && height == 0) {
     width = image.info.width / scale_;
     height = image.info.height / scale_;
@@ -117,7 +137,7 @@ void tqrPDF::PDFImage(const std::string& path, double x, double y, double& width
   if (height == 0) height = image.info.height * width / image.info.width;
   images_.push_back(std::move(image));
   page_.Line(kImageMarker.open).Line("q");
-  page_.Line(Fixed{width * scale_}, " 0 0 ", Fixed{height * scale_}, " ", Fixed{PointsX(x)}, " ",
+  page_.Line(Fixed{Length(width)}, " 0 0 ", Fixed{Length(height)}, " ", Fixed{PointsX(x)}, " ",
              Fixed{PointsY(y + height)}, " cm /ImgJPEG", images_.size(), " Do Q");
   page_.Line(kImageMarker.close);
   last_image_ = {PointsX(x), PointsY(y + height), PointsX(x + width), PointsY(y)};

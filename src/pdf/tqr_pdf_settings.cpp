@@ -38,11 +38,10 @@ constexpr std::array<std::array<std::string_view, 4>, 5> kFontNames = {{
 }};
 constexpr std::string_view kFallbackFont = "TimesRoman";
 
-// Page sizes are kept as whole points of 16 bits.
-int WholePoints(double points) {
-  static constexpr double kLargest = 32767;
-  return points > 0 ? static_cast<int>(std::nearbyint(std::min(points, kLargest))) : 0;
-}
+// The sides of a page that readers take, in points.
+constexpr double kShortest = 3;
+constexpr double kLongest = 14400;
+bool FitsSide(double points) { return points >= kShortest && points <= kLongest; }
 
 }  // namespace
 
@@ -53,7 +52,7 @@ void tqrPDF::PDFInit() {
   file_name_.clear();
   information_ = {};
   view_ = {};
-  confirm_ = view_after_ = watermark_on_ = false;
+  confirm_ = view_after_ = watermark_on_ = strict_ = number_told_ = false;
   watermark_.clear();
   unit_ = kCentimeter;
   scale_ = kScales[kCentimeter];
@@ -74,8 +73,24 @@ void tqrPDF::PDFInit() {
   MoveToMargins();
 }
 
+void tqrPDF::PDFStrict(bool strict) {
+  strict_ = strict;
+  fonts_.MeasureByName(strict);
+}
+
 void tqrPDF::Show(const Message& message) const {
   if (surroundings_.messages != nullptr) surroundings_.messages->Show(message);
+}
+
+double tqrPDF::Replaced(double number, double unit) {
+  TellNumber(number);
+  return std::isnan(number) ? 0 : std::copysign(kFarthest / unit, number);
+}
+
+// Once a document: a bad place tends to come with a hundred others.
+void tqrPDF::TellNumber(double number) {
+  if (!number_told_) Show(SettingMessage(SettingError::kNumber, ShortText(number)));
+  number_told_ = true;
 }
 
 int tqrPDF::Choice(const Setting& value, int count, SettingError error, int fallback) const {
@@ -89,7 +104,8 @@ int tqrPDF::Choice(const Setting& value, int count, SettingError error, int fall
 }
 
 void tqrPDF::PDFSetZoomMode(const Setting& mode) {
-  const auto number = mode.Number();
+  auto number = mode.Number();
+  if (number && !(std::abs(*number) <= kFarthest)) number.reset();
   if (!number) Show(SettingMessage(SettingError::kZoomMode, mode.Text()));
   const double value = number.value_or(kZoomFullPage);
   view_.zoom = ViewSettings::kPercentage;
@@ -128,18 +144,26 @@ void tqrPDF::PDFFormatPage(const Setting& format) {
   const SettingError error = format.IsNumber() ? SettingError::kFormat : SettingError::kFormatType;
   const PageSize& size =
       kFormats[static_cast<size_t>(Choice(format, static_cast<int>(kFormats.size()), error, kA4))];
-  PDFFormatPage(size.width, size.height);
+  const bool turned = OwnPage().landscape;
+  SizePage(turned ? size.height : size.width, turned ? size.width : size.height);
 }
 
 void tqrPDF::PDFFormatPage(double width, double height) {
-  Page& page = OwnPage();
-  page.width = WholePoints(page.landscape ? height : width);
-  page.height = WholePoints(page.landscape ? width : height);
+  if (FitsSide(width) && FitsSide(height)) return SizePage(width, height);
+  Show(SettingMessage(SettingError::kFormat, ShortText(width) + " x " + ShortText(height)));
+  PDFFormatPage(kA4);
 }
 
-void tqrPDF::PDFPageHeight(double height) { OwnPage().height = WholePoints(height * scale_); }
+// Page sizes are kept as whole points.
+void tqrPDF::SizePage(double width, double height) {
+  Page& page = OwnPage();
+  page.width = static_cast<int>(std::nearbyint(width));
+  page.height = static_cast<int>(std::nearbyint(height));
+}
 
-void tqrPDF::PDFPageWidth(double width) { OwnPage().width = WholePoints(width * scale_); }
+void tqrPDF::PDFPageHeight(double height) { PDFFormatPage(OwnPage().width, height * scale_); }
+
+void tqrPDF::PDFPageWidth(double width) { PDFFormatPage(width * scale_, OwnPage().height); }
 
 void tqrPDF::PDFSetMargins(double left, double top, double right, double bottom) {
   margins_ = {left, top, right, bottom, margins_.cell};

@@ -6,12 +6,14 @@
 #include "pdf/markers.h"
 #include "pdf/text_encoding.h"
 #include "pdf/tqr_pdf.h"
-#include "text_number/fault.h"
+#include "text/fault.h"
 
 namespace tarvane::pdf {
 namespace {
 
 constexpr double kDefaultSize = 10;
+// A smaller font shows nothing, and its size would be written with hundreds of zeros.
+constexpr double kSmallestSize = 0.01;
 constexpr double kWidthUnits = 1000;  // of a font size
 
 // The sum of widths times the size is kept in 32 bits before it is divided.
@@ -37,7 +39,10 @@ const std::string& tqrPDF::FontOperator() {
 }
 
 void tqrPDF::SetFontSize(double size) {
-  pen_.font_size = size;
+  const double least = size == 0 ? 0 : kSmallestSize;
+  const bool taken = std::abs(size) >= least && std::abs(size) <= kFarthest;
+  if (!taken) TellNumber(size);
+  pen_.font_size = taken ? size : 0;
   pen_.font_operator.clear();
 }
 
@@ -49,11 +54,15 @@ double tqrPDF::PDFGetStringWidth(std::string_view text, std::string_view font, d
 void tqrPDF::PDFTextOut(const std::string& text, double x, double y) {
   if (x == 0) x = pen_.x;
   if (y == 0) y = pen_.y;
+  x = Sane(x, scale_);
   if (pen_.font_size == 0) SetFontSize(kDefaultSize);
   const std::string codes = ToWinAnsi(text);
+  const auto width = [&] { return PointsOf(fonts_.Widths(FontInUse()).Sum(codes), pen_.font_size) / scale_; };
+  // What can't be measured has no font that a reader could find, or no place on a page.
+  if (strict_) width();
   const double shift = pen_.rotation == 0 ? margins_.left : 0;
   ShowText(codes, PointsX(x + shift), PointsY(y));
-  pen_.x = x + PointsOf(fonts_.Widths(FontInUse()).Sum(codes), pen_.font_size) / scale_;
+  pen_.x = x + width();
 }
 
 // Writes the text with its base line at x, y in points.
@@ -73,7 +82,7 @@ void tqrPDF::ShowText(std::string_view codes, double x, double y) {
     page_.Line(Fixed{x}, " ", Fixed{y}, " Td");
   }
   page_.Line(FontOperator());
-  page_.Line("(", EscapePageText(codes), ") Tj");
+  page_.Line("(", strict_ ? EscapeString(codes) : EscapePageText(codes), ") Tj");
   page_.Line("ET");
   if (!pen_.text_color.empty()) page_.Line("Q");
   page_.Line(kTextMarker.close);
@@ -81,11 +90,13 @@ void tqrPDF::ShowText(std::string_view codes, double x, double y) {
 
 void tqrPDF::PDFCell(const std::string& text, double height, double width, const std::string& link) {
   if (pen_.font_size == 0) SetFontSize(kDefaultSize);
+  height = Sane(height, scale_);
+  width = Sane(width, scale_);
   const std::string codes = ToWinAnsi(text);
   const WidthTable widths = fonts_.Widths(FontInUse());
   const double top = pen_.y;
   // Widths are weighed at the size 10: a hundredth of their sum against the room brought to that size.
-  const double room = (width - 2 * margins_.cell) * scale_ * 10 / pen_.font_size * 100;
+  const double room = Length(width - 2 * margins_.cell) * 10 / pen_.font_size * 100;
   const std::vector<CellLine> lines = BreakLines(codes, widths, room);
   page_.Line(kCellMarker.open);
   for (size_t index = 0; index < lines.size(); ++index) {
@@ -107,11 +118,12 @@ void tqrPDF::AppendCellBox(const CellBox& box) {
   const double bottom = PointsY(box.y + box.height);
   if (cell_.fill) {
     page_.Line(pen_.draw_color);
-    page_.Line(Fixed{left}, " ", Fixed{top}, " ", Fixed{right - left}, " ", Fixed{bottom - top}, " re f");
+    page_.Line(Fixed{left}, " ", Fixed{top}, " ", Fixed{Sane(right - left)}, " ", Fixed{Sane(bottom - top)},
+               " re f");
   }
   if (box.sides.empty()) return;
   page_.Line(pen_.line_color);
-  page_.Line(Fixed{pen_.line_width * scale_}, " w");
+  page_.Line(Fixed{Length(pen_.line_width)}, " w");
   for (const char side : box.sides) {
     const double x1 = side == 'R' ? right : left;
     const double x2 = side == 'L' ? left : right;
@@ -135,7 +147,7 @@ void tqrPDF::AppendCellLine(const CellLine& line, const CellBox& box, const Widt
         line.wrapped && blanks > 0 ? (room - static_cast<double>(sum)) * pen_.font_size / kWidthUnits : 0;
     page_.Line(Fixed{blanks > 0 ? rest / static_cast<double>(blanks) : 0, Mask::k0_000}, " Tw");
   }
-  const double base_line = PointsY(box.y + box.height / 2) - 0.3 * pen_.font_size;
+  const double base_line = Sane(PointsY(box.y + box.height / 2) - 0.3 * pen_.font_size);
   ShowText(line.text, PointsX(x), base_line);
 }
 

@@ -1,14 +1,10 @@
 #include "printing/pdf_surroundings.h"
 
-namespace tarvane {
+namespace tarvane::printing {
 
 pdf::Surroundings PdfSurroundings::For() {
   return {.messages = this,
-          .now =
-              [this] {
-                const DateTime now = host_.Now();
-                return pdf::CalendarTime{now.year, now.month, now.day, now.hour, now.minute, now.second};
-              },
+          .now = [this] { return host_.Now(); },
           .view = [this](const std::string& path) { host_.Launch(path); },
           .program_folder = folder_.string()};
 }
@@ -18,4 +14,4 @@ void PdfSurroundings::Show(const pdf::Message& message) {
                 message.icon == pdf::Icon::kStop ? Icon::kError : Icon::kInformation);
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::printing

@@ -2,12 +2,15 @@
 
 #include <algorithm>
 
+#include "screen/kinds.h"
 #include "screen/screen.h"
 
 namespace tarvane {
 
-Control::Control(Screen* screen, std::string name, int index)
-    : screen_(screen), name_(std::move(name)), index_(index) {
+Home::Home(Panel* panel_in) : screen(&panel_in->screen()), panel(panel_in) {}
+
+Control::Control(Home home, std::string name, int index)
+    : screen_(home.screen), name_(std::move(name)), index_(index), panel_(home.panel) {
   screen_->Register(this);
 }
 
@@ -93,9 +96,17 @@ void OptionButton::Set(bool on) {
   TickBox::Set(on);
   if (!on) return;
   for (Control* control : screen().controls()) {
-    auto* other = dynamic_cast<OptionButton*>(control);
+    auto* other = As<OptionButton>(*control);
     if (other != nullptr && other != this && other->group_ == group_) other->TickBox::Set(false);
   }
+}
+
+void OptionButton::UserClick() {
+  screen().Guard([this] {
+    screen().SetFocus(*this);
+    Set(true);
+    RunClick();
+  });
 }
 
 void TabStrip::Select(int tab) {

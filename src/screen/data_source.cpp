@@ -1,12 +1,16 @@
 #include "screen/data_source.h"
 
+#include <utility>
+
+#include "text/fault.h"
+
 namespace tarvane {
 
 DataSource::DataSource() {
   rows_.OnReposition([this] {
     LoadFields();
     for (TableGrid* grid : grids_) grid->CursorMoved();
-    for (const Rule& rule : reposition_) rule();
+    RunReposition();
   });
   rows_.OnRowsChanged([this] {
     for (TableGrid* grid : grids_) grid->RowsChanged();
@@ -18,7 +22,7 @@ void DataSource::Bind(TextField& field, std::string column, int limit) {
   field.has_row_ = [this] { return HasRow(); };
   const std::size_t at = bindings_.size();
   field.sink_ = [this, at](const std::string& text) {
-    if (HasRow()) rows_.SetValue(bindings_[at].index, text);
+    if (writing_ && HasRow()) rows_.SetValue(bindings_[at].index, text);
   };
   bindings_.push_back({&field, nullptr, std::move(column), -1});
 }
@@ -26,7 +30,7 @@ void DataSource::Bind(TextField& field, std::string column, int limit) {
 void DataSource::Bind(TickBox& box, std::string column) {
   const std::size_t at = bindings_.size();
   box.sink_ = [this, at](bool on) {
-    if (HasRow()) rows_.SetValue(bindings_[at].index, on ? "1" : "0");
+    if (writing_ && HasRow()) rows_.SetValue(bindings_[at].index, on ? "1" : "0");
   };
   bindings_.push_back({nullptr, &box, std::move(column), -1});
 }
@@ -37,13 +41,52 @@ void DataSource::Attach(TableGrid& grid, std::vector<TableGrid::Column> columns,
 }
 
 void DataSource::Open(Database& database, std::string_view source) {
-  for (Binding& binding : bindings_) binding.index = -1;
+  columns_found_ = false;
   try {
     rows_.Open(database, source);
+    FindColumns();
   } catch (...) {
+    // What was open before is open still, unless it is the new table that lacks a column.
+    try {
+      FindColumns();
+    } catch (const Fault&) {
+      rows_.Close();
+    }
     LoadFields();
     throw;
   }
+}
+
+void DataSource::Save() {
+  const bool adding = rows_.IsOpen() && rows_.IsAdding();
+  rows_.Update();
+  if (!adding) return;
+  LoadFields();
+  RunReposition();
+}
+
+void DataSource::WithoutWriting(const std::function<void()>& step) {
+  const bool before = std::exchange(writing_, false);
+  try {
+    step();
+  } catch (...) {
+    writing_ = before;
+    throw;
+  }
+  writing_ = before;
+}
+
+void DataSource::WriteFields() {
+  if (!HasRow()) return;
+  for (const Binding& binding : bindings_) {
+    const std::string_view shown =
+        binding.field != nullptr ? std::string_view(binding.field->text()) : (binding.box->on() ? "1" : "0");
+    if (rows_.Value(binding.index) != shown) rows_.SetValue(binding.index, shown);
+  }
+}
+
+void DataSource::RunReposition() {
+  for (const Rule& rule : reposition_) rule();
 }
 
 void DataSource::Close() {
@@ -52,9 +95,11 @@ void DataSource::Close() {
 }
 
 void DataSource::FindColumns() {
-  for (Binding& binding : bindings_) {
-    if (binding.index < 0 && rows_.IsOpen()) binding.index = rows_.FindColumn(binding.column);
-  }
+  if (columns_found_ || !rows_.IsOpen()) return;
+  for (Binding& binding : bindings_) binding.index = rows_.FindColumn(binding.column);
+  // Here, not as it is drawn, a grid's column that isn't there is found out.
+  for (const TableGrid* grid : grids_) grid->ColumnCount();
+  columns_found_ = true;
 }
 
 void DataSource::LoadFields() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,6 +19,8 @@ class Database;
 class DataSource {
  public:
   DataSource();
+  DataSource(const DataSource&) = delete;
+  DataSource& operator=(const DataSource&) = delete;
 
   RowSet& rows() { return rows_; }
   const RowSet& rows() const { return rows_; }
@@ -28,10 +31,20 @@ class DataSource {
   // A grid that draws the rows of this source and moves it; TableGrid::SetSource's arguments.
   void Attach(TableGrid& grid, std::vector<TableGrid::Column> columns = {}, std::string first_heading = "");
 
-  // Opens the source; faults as RowSet::Open, and then the fields are blank.
+  // Opens the source; faults as RowSet::Open, and then nothing has changed. Where a bound column isn't there
+  // it faults too, and then the row set is closed and the fields are blank.
   void Open(Database& database, std::string_view source);
   void Close();
   bool HasRow() const { return rows_.IsOpen() && rows_.HasRow(); }
+
+  // Commits what waits. A new row gets its key and its place: the fields are filled again, and the reposition
+  // rules run.
+  void Save();
+
+  // While `step` runs, fields that are set don't reach the row: for what is worked out for a mere look.
+  // Fields and row may then differ; WriteFields makes the row what the fields show.
+  void WithoutWriting(const std::function<void()>& step);
+  void WriteFields();
 
   void OnReposition(Rule rule) { reposition_.push_back(std::move(rule)); }
 
@@ -46,8 +59,11 @@ class DataSource {
     int index = -1;
   };
   void FindColumns();
+  void RunReposition();
 
   RowSet rows_;
+  bool columns_found_ = false;
+  bool writing_ = true;
   std::vector<Binding> bindings_;
   std::vector<TableGrid*> grids_;
   std::vector<Rule> reposition_;

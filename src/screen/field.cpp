@@ -1,5 +1,7 @@
 #include "screen/field.h"
 
+#include <cmath>
+
 #include "screen/screen.h"
 
 namespace tarvane {
@@ -10,6 +12,14 @@ void TextField::SetText(std::string_view text) {
   if (sink_) sink_(text_);
   Notify(Aspect::kText);
   Run(changed_);
+}
+
+void TextField::SetNumber(double value) {
+  if (std::isfinite(value)) SetText(NumberText(value));
+}
+
+void TextField::SetNumber(double value, Mask mask) {
+  if (std::isfinite(value)) SetText(FormatNumber(value, mask));
 }
 
 void TextField::LoadText(std::string_view text) {

@@ -16,9 +16,9 @@ class TextField : public Control {
  public:
   enum class Kind { kLine, kMemo };
 
-  TextField(Screen* screen, std::string name, std::string_view text = "", int index = -1,
-            Kind kind = Kind::kLine)
-      : Control(screen, std::move(name), index), text_(text), kind_(kind) {}
+  TextField(Home home, std::string name, std::string_view text = "", int index = -1, Kind kind = Kind::kLine)
+      : Control(home, std::move(name), index), text_(text), kind_(kind) {}
+  ControlKind kind_of() override { return this; }
 
   const std::string& text() const { return text_; }
   // The leading number of the text, 0 where there is none.
@@ -26,6 +26,10 @@ class TextField : public Control {
   bool empty() const { return text_.empty(); }
   // By a procedure. A different text runs the rules of OnChanged; the same one does nothing.
   void SetText(std::string_view text);
+  // A calculated number, plain or with the decimals of `mask`. A calculation that came to no finite number
+  // leaves the field as it is.
+  void SetNumber(double value);
+  void SetNumber(double value, Mask mask);
   // Without rules: what a row set puts in as another row becomes current.
   void LoadText(std::string_view text);
 
@@ -70,8 +74,10 @@ class TextField : public Control {
 // A field with a list of entries that fold out; typing is free unless told otherwise.
 class DropDownList : public TextField {
  public:
-  DropDownList(Screen* screen, std::string name, std::string_view text = "", int index = -1)
-      : TextField(screen, std::move(name), text, index) {}
+  DropDownList(Home home, std::string name, std::string_view text = "", int index = -1)
+      : TextField(home, std::move(name), text, index) {}
+  DropDownList(Home home, std::string name, NotBuilt) : DropDownList(home, std::move(name)) { SetToCome(); }
+  ControlKind kind_of() override { return this; }
 
   const std::vector<std::string>& entries() const { return entries_; }
   void SetEntries(std::vector<std::string> entries);
@@ -94,7 +100,8 @@ class DropDownList : public TextField {
 // A list that is always open; one entry may be selected, -1 for none.
 class ListBox : public Control {
  public:
-  ListBox(Screen* screen, std::string name, int index = -1) : Control(screen, std::move(name), index) {}
+  ListBox(Home home, std::string name, int index = -1) : Control(home, std::move(name), index) {}
+  ControlKind kind_of() override { return this; }
 
   const std::vector<std::string>& entries() const { return entries_; }
   void SetEntries(std::vector<std::string> entries);  // selects none

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "screen/control.h"
+#include "text/day.h"
 
 namespace tarvane {
 
@@ -16,7 +17,8 @@ class RowSet;
 // 0 only while there are no others.
 class Grid : public Control {
  public:
-  Grid(Screen* screen, std::string name, int index = -1) : Control(screen, std::move(name), index) {}
+  Grid(Home home, std::string name, int index = -1) : Control(home, std::move(name), index) {}
+  ControlKind kind_of() override { return this; }
 
   virtual std::int64_t RowCount() const = 0;  // heading not counted
   virtual int ColumnCount() const = 0;
@@ -44,8 +46,9 @@ class Grid : public Control {
 // A small grid that holds its cells.
 class HeldGrid : public Grid {
  public:
-  HeldGrid(Screen* screen, std::string name, std::vector<std::string> headings, int index = -1)
-      : Grid(screen, std::move(name), index), headings_(std::move(headings)) {}
+  HeldGrid(Home home, std::string name, std::vector<std::string> headings, int index = -1)
+      : Grid(home, std::move(name), index), headings_(std::move(headings)) {}
+  ControlKind kind_of() override { return this; }
 
   std::int64_t RowCount() const override { return static_cast<std::int64_t>(rows_.size()); }
   int ColumnCount() const override { return static_cast<int>(headings_.size()); }
@@ -81,7 +84,8 @@ class TableGrid : public Grid {
     std::string heading;  // "": the name
   };
 
-  TableGrid(Screen* screen, std::string name, int index = -1) : Grid(screen, std::move(name), index) {}
+  TableGrid(Home home, std::string name, int index = -1) : Grid(home, std::move(name), index) {}
+  ControlKind kind_of() override { return this; }
 
   // `rows` must outlive the grid. No columns given: every column of the row set. `first_heading` stands over
   // the first of them, "" for its name.
@@ -112,19 +116,15 @@ class TableGrid : public Grid {
 // A month's days, one of which is chosen.
 class Calendar : public Control {
  public:
-  struct Day {
-    int year = 0;
-    int month = 0;
-    int day = 0;
-  };
-  Calendar(Screen* screen, std::string name) : Control(screen, std::move(name)) {}
+  Calendar(Home home, std::string name) : Control(home, std::move(name)) {}
+  ControlKind kind_of() override { return this; }
   Day day() const { return day_; }
   void Set(Day day);
   void OnClicked(Rule rule) { clicked_.push_back(std::move(rule)); }
   void UserClick(Day day);
 
  private:
-  Day day_;
+  Day day_ = MakeDay(2000, 1, 1);
   Rules clicked_;
 };
 

@@ -6,23 +6,11 @@
 #include <string_view>
 #include <vector>
 
+#include "text/day.h"
+
 namespace tarvane {
 
 class Screen;
-
-// Local time as the shop's clock shows it.
-struct DateTime {
-  int year = 2000;
-  int month = 1;
-  int day = 1;
-  int hour = 0;
-  int minute = 0;
-  int second = 0;
-};
-
-// "dd/mm/yy" and "dd/mm/yyyy".
-std::string ShortDate(const DateTime& time);
-std::string LongDate(const DateTime& time);
 
 enum class Answer { kYes, kNo, kOk, kCancel };
 enum class Icon { kNone, kInformation, kQuestion, kWarning, kError };
@@ -54,6 +42,12 @@ class Host {
   virtual void RunModal(Screen& screen) = 0;
 
   virtual void Message(std::string_view title, std::string_view text, Icon icon) = 0;
+  // A message that tells the same each time. `about` names what it is about (a job, for instance): a face may
+  // pass over one that the worker has seen about that.
+  virtual void Hint(std::string_view title, std::string_view text, std::string_view about) {
+    static_cast<void>(about);
+    Message(title, text, Icon::kNone);
+  }
   virtual Answer Ask(const Question& question) = 0;
   // Nothing where the worker cancels.
   virtual std::optional<std::string> Input(std::string_view title, std::string_view prompt,

@@ -1,18 +1,8 @@
 #include "screen/screen.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 
 namespace tarvane {
-
-std::string ShortDate(const DateTime& time) {
-  return fmt::format("{:02}/{:02}/{:02}", time.day, time.month, time.year % 100);
-}
-
-std::string LongDate(const DateTime& time) {
-  return fmt::format("{:02}/{:02}/{:04}", time.day, time.month, time.year);
-}
 
 Screen::Screen(Host& host, std::string name) : host_(&host), name_(std::move(name)) {}
 
@@ -89,7 +79,22 @@ void Screen::Guard(const std::function<void()>& action) {
     action();
   } catch (const Fault& fault) {
     Message(fault.what(), kProgramTitle, Icon::kWarning);
+  } catch (const std::exception& error) {
+    // Nothing of the program's own: out of memory, for instance. The worker goes on with what stands.
+    Message(std::string("This could not be done: ") + error.what() + ".", kProgramTitle, Icon::kError);
   }
+}
+
+void Screen::RunEach(std::initializer_list<std::function<void()>> steps) {
+  std::vector<std::string> told;
+  for (const std::function<void()>& step : steps) {
+    try {
+      step();
+    } catch (const Fault& fault) {
+      if (std::ranges::find(told, fault.what()) == told.end()) told.emplace_back(fault.what());
+    }
+  }
+  for (const std::string& text : told) Message(text, kProgramTitle, Icon::kWarning);
 }
 
 void Screen::Message(std::string_view text, std::string_view title, Icon icon) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -10,7 +11,7 @@
 #include "screen/field.h"
 #include "screen/grid.h"
 #include "screen/host.h"
-#include "text_number/fault.h"
+#include "text/fault.h"
 
 namespace tarvane {
 
@@ -64,9 +65,12 @@ class Screen {
   // The control with the focus loses it to none.
   void LeaveFocus();
 
-  // Runs what the worker did; a fault that no rule covers is told in a message and leaves the screen as it
-  // is.
+  // Runs what the worker did; a fault that no rule covers, or any other exception of the library, is told in
+  // a message and leaves the screen as it is.
   void Guard(const std::function<void()>& action);
+
+  // Runs all of `steps`, each whatever becomes of the others; what faulted is told, each text once.
+  void RunEach(std::initializer_list<std::function<void()>> steps);
 
   // Messages and questions under this screen's host.
   void Message(std::string_view text, std::string_view title = kProgramTitle, Icon icon = Icon::kNone);

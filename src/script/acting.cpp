@@ -1,40 +1,16 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <charconv>
-#include <chrono>
 
 #include "script/interpreter.h"
+#include "text/utf8.h"
 
-namespace tarvane {
+namespace tarvane::script {
 namespace {
 
-// As much of the text as fits into the field, in characters of UTF-8.
+// As much of the text as fits into the field.
 std::string_view Fitting(std::string_view text, int max_length) {
-  if (max_length <= 0) return text;
-  int characters = 0;
-  for (std::size_t at = 0; at < text.size(); ++at) {
-    const bool begins = (static_cast<unsigned char>(text[at]) & 0xC0) != 0x80;
-    if (begins && ++characters > max_length) return text.substr(0, at);
-  }
-  return text;
-}
-
-// "2026-12-24".
-std::optional<Calendar::Day> ParseDay(std::string_view text) {
-  if (text.size() != 10 || text[4] != '-' || text[7] != '-') return std::nullopt;
-  const auto part = [text](std::size_t at, std::size_t size) {
-    int number = -1;
-    const auto [end, error] = std::from_chars(text.data() + at, text.data() + at + size, number);
-    return error == std::errc() && end == text.data() + at + size ? number : -1;
-  };
-  const Calendar::Day day = {part(0, 4), part(5, 2), part(8, 2)};
-  if (day.year < 0 || day.month < 0 || day.day < 0) return std::nullopt;
-  const std::chrono::year_month_day date{std::chrono::year(day.year),
-                                         std::chrono::month(static_cast<unsigned>(day.month)),
-                                         std::chrono::day(static_cast<unsigned>(day.day))};
-  if (!date.ok()) return std::nullopt;
-  return day;
+  return max_length <= 0 ? text : FirstCharacters(text, static_cast<std::size_t>(max_length));
 }
 
 [[noreturn]] void NoEntry(const Argument& address, const Control& control, const std::string& text,
@@ -74,7 +50,7 @@ void Interpreter::RequireUsable(const Argument& address, const Control& control)
 
 void Interpreter::Type(Arguments arguments) {
   auto& field = Usable<TextField>(arguments[0], "a field");
-  const auto* list = dynamic_cast<const DropDownList*>(&field);
+  const auto* list = As<DropDownList>(field);
   if (field.read_only()) throw ScriptError(Place(arguments[0], field) + " is read-only");
   if (list != nullptr && !list->typing_allowed()) {
     throw ScriptError(Place(arguments[0], field) + " takes only its entries: choose one");
@@ -90,9 +66,14 @@ void Interpreter::Leave(Arguments arguments) { Usable<Control>(arguments[0], "a 
 
 void Interpreter::Press(Arguments arguments) {
   Control* found = FindControls(arguments[0], host_.open_screens()).front();
-  if (auto* label = dynamic_cast<Label*>(found); label != nullptr && label->clickable()) {
+  if (auto* label = As<Label>(*found); label != nullptr && label->clickable()) {
     RequireUsable(arguments[0], *label);
     label->UserClick();
+    return;
+  }
+  if (auto* option = As<OptionButton>(*found)) {
+    RequireUsable(arguments[0], *option);
+    option->UserClick();
     return;
   }
   Usable<Button>(arguments[0], "a button").UserPress();
@@ -107,23 +88,30 @@ void Interpreter::Tick(Arguments arguments) { SetBox(arguments[0], true); }
 void Interpreter::Untick(Arguments arguments) { SetBox(arguments[0], false); }
 
 void Interpreter::ChooseEntry(const Argument& address, Control& control, const std::string& text) const {
-  if (auto* drop_down = dynamic_cast<DropDownList*>(&control)) {
-    if (drop_down->read_only()) throw ScriptError(Place(address, control) + " is read-only");
-    drop_down->UserPick(FindEntry(address, control, text, drop_down->entries()));
-  } else if (auto* list = dynamic_cast<ListBox*>(&control)) {
-    list->UserPick(static_cast<int>(FindEntry(address, control, text, list->entries())));
-  } else if (auto* tabs = dynamic_cast<TabStrip*>(&control)) {
-    std::vector<std::string> captions;
-    std::ranges::transform(tabs->captions(), std::back_inserter(captions), PlainCaption);
-    tabs->UserSelect(static_cast<int>(FindEntry(address, control, PlainCaption(text), captions)));
-  } else if (auto* calendar = dynamic_cast<Calendar*>(&control)) {
-    const std::optional<Calendar::Day> day = ParseDay(text);
-    if (!day) throw ScriptError(fmt::format("{} takes a day such as 2026-12-24", Place(address, control)));
-    calendar->UserClick(*day);
-  } else {
-    throw ScriptError(
-        fmt::format("{} is {}, not a list, tabs or a calendar", Place(address, control), KindOf(control)));
-  }
+  VisitKind(
+      control,
+      [&](DropDownList& list) {
+        if (list.read_only()) throw ScriptError(Place(address, control) + " is read-only");
+        list.UserPick(FindEntry(address, control, text, list.entries()));
+      },
+      [&](ListBox& list) {
+        list.UserPick(static_cast<int>(FindEntry(address, control, text, list.entries())));
+      },
+      [&](TabStrip& tabs) {
+        std::vector<std::string> captions;
+        std::ranges::transform(tabs.captions(), std::back_inserter(captions), BareCaption);
+        tabs.UserSelect(static_cast<int>(FindEntry(address, control, BareCaption(text), captions)));
+      },
+      [&](Calendar& calendar) {
+        const std::optional<Day> day = ParseIsoDate(text);
+        if (!day)
+          throw ScriptError(fmt::format("{} takes a day such as 2026-12-24", Place(address, control)));
+        calendar.UserClick(*day);
+      },
+      [&](Control&) {
+        throw ScriptError(fmt::format("{} is {}, not a list, tabs or a calendar", Place(address, control),
+                                      KindOf(control)));
+      });
 }
 
 void Interpreter::Choose(Arguments arguments) {
@@ -133,7 +121,7 @@ void Interpreter::Choose(Arguments arguments) {
 
 void Interpreter::Select(Arguments arguments) {
   auto& control = Usable<Control>(arguments[0], "a grid");
-  if (auto* list = dynamic_cast<ListBox*>(&control)) {
+  if (auto* list = As<ListBox>(control)) {
     const auto last = static_cast<std::int64_t>(list->entries().size());
     list->UserPick(static_cast<int>(RowOf(arguments[0], arguments[1], control, 1, last)) - 1);
     return;
@@ -144,7 +132,7 @@ void Interpreter::Select(Arguments arguments) {
 
 void Interpreter::Open(Arguments arguments) {
   auto& control = Usable<Control>(arguments[0], "a grid");
-  if (auto* list = dynamic_cast<ListBox*>(&control)) {
+  if (auto* list = As<ListBox>(control)) {
     const std::int64_t row = WholeNumber(arguments[1]);
     const bool on_entry = row >= 1 && row <= static_cast<std::int64_t>(list->entries().size());
     list->UserOpen(on_entry ? static_cast<int>(row) - 1 : -1);
@@ -160,4 +148,4 @@ void Interpreter::AnswerNext(Arguments arguments) { host_.QueueAnswer(arguments[
 
 void Interpreter::CancelNext(Arguments) { host_.QueueCancel(); }
 
-}  // namespace tarvane
+}  // namespace tarvane::script

@@ -6,7 +6,9 @@
 #include <charconv>
 #include <numeric>
 
-namespace tarvane {
+#include "text/trim.h"
+
+namespace tarvane::script {
 namespace {
 
 // "txtItems[3]" apart; index -1 where none is told.
@@ -27,17 +29,16 @@ NameAndIndex SplitIndex(std::string_view text) {
 }
 
 bool GoesByCaption(const Control& control) {
-  return dynamic_cast<const Button*>(&control) != nullptr ||
-         dynamic_cast<const TickBox*>(&control) != nullptr;
+  return As<Button>(control) != nullptr || As<TickBox>(control) != nullptr;
 }
 
 // Those with the caption; what can be used now comes first.
 std::vector<Control*> FindByCaption(const Screen& screen, std::string_view text) {
-  const std::string caption = PlainCaption(text);
+  const std::string caption = BareCaption(text);
   std::vector<Control*> found;
   if (caption.empty()) return found;
   for (Control* control : screen.controls()) {
-    if (GoesByCaption(*control) && PlainCaption(control->caption()) == caption) found.push_back(control);
+    if (GoesByCaption(*control) && BareCaption(control->caption()) == caption) found.push_back(control);
   }
   const auto rank = [](const Control* control) {
     if (control->never_shown() || !control->visible()) return 3;
@@ -79,7 +80,7 @@ std::vector<std::string> NamesOn(const Screen& screen) {
   for (const Control* control : screen.controls()) {
     names.push_back(FullName(*control));
     names.insert(names.end(), control->aliases().begin(), control->aliases().end());
-    if (GoesByCaption(*control)) names.push_back(PlainCaption(control->caption()));
+    if (GoesByCaption(*control)) names.push_back(BareCaption(control->caption()));
   }
   std::erase(names, "");
   return names;
@@ -130,12 +131,10 @@ std::size_t EditDistance(std::string_view a, std::string_view b) {
 
 }  // namespace
 
-std::string PlainCaption(std::string_view caption) {
-  std::string plain(caption);
-  std::erase(plain, '&');
-  const std::size_t first = plain.find_first_not_of(' ');
-  if (first == std::string::npos) return "";
-  return plain.substr(first, plain.find_last_not_of(' ') - first + 1);
+std::string BareCaption(std::string_view caption) {
+  std::string bare(caption);
+  std::erase(bare, '&');
+  return std::string(TrimSpaces(bare));
 }
 
 std::string FullName(const Control& control) {
@@ -154,17 +153,13 @@ std::string Nearest(std::string_view name, const std::vector<std::string>& names
 }
 
 std::string_view KindOf(const Control& control) {
-  if (dynamic_cast<const DropDownList*>(&control) != nullptr) return "a drop-down list";
-  if (dynamic_cast<const TextField*>(&control) != nullptr) return "a field";
-  if (dynamic_cast<const ListBox*>(&control) != nullptr) return "a list";
-  if (dynamic_cast<const Grid*>(&control) != nullptr) return "a grid";
-  if (dynamic_cast<const OptionButton*>(&control) != nullptr) return "a round option";
-  if (dynamic_cast<const TickBox*>(&control) != nullptr) return "a tick box";
-  if (dynamic_cast<const Button*>(&control) != nullptr) return "a button";
-  if (dynamic_cast<const TabStrip*>(&control) != nullptr) return "a row of tabs";
-  if (dynamic_cast<const Calendar*>(&control) != nullptr) return "a calendar";
-  if (dynamic_cast<const Label*>(&control) != nullptr) return "a label";
-  return "a panel";
+  return VisitKind(
+      control, [](const DropDownList&) { return "a drop-down list"; },
+      [](const TextField&) { return "a field"; }, [](const ListBox&) { return "a list"; },
+      [](const Grid&) { return "a grid"; }, [](const OptionButton&) { return "a round option"; },
+      [](const TickBox&) { return "a tick box"; }, [](const Button&) { return "a button"; },
+      [](const TabStrip&) { return "a row of tabs"; }, [](const Calendar&) { return "a calendar"; },
+      [](const Label&) { return "a label"; }, [](const Panel&) { return "a panel"; });
 }
 
 std::vector<Control*> FindControls(const Argument& address, const std::vector<Screen*>& open) {
@@ -187,4 +182,4 @@ std::vector<Control*> FindControls(const Argument& address, const std::vector<Sc
   return found;
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::script

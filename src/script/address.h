@@ -4,11 +4,12 @@
 #include <string_view>
 #include <vector>
 
+#include "screen/kinds.h"
 #include "screen/screen.h"
 #include "script/script_error.h"
 #include "script/script_line.h"
 
-namespace tarvane {
+namespace tarvane::script {
 
 // The controls that an address means, the likeliest first; never empty. `open`: the open screens, the one on
 // top last. ScriptError with the nearest name where there is none.
@@ -27,17 +28,17 @@ std::string FullName(const Control& control);
 std::string Nearest(std::string_view name, const std::vector<std::string>& names);
 
 // The text without ampersands and outer blanks.
-std::string PlainCaption(std::string_view caption);
+std::string BareCaption(std::string_view caption);
 
 // The control as one of `Kind`; ScriptError where the address means no such control.
 template <typename Kind>
 Kind& FindKind(const Argument& address, const std::vector<Screen*>& open, std::string_view wanted) {
   const std::vector<Control*> found = FindControls(address, open);
   for (Control* control : found) {
-    if (auto* of_kind = dynamic_cast<Kind*>(control)) return *of_kind;
+    if (auto* of_kind = As<Kind>(*control)) return *of_kind;
   }
   throw ScriptError(Place(address, *found.front()) + " is " + std::string(KindOf(*found.front())) + ", not " +
                     std::string(wanted));
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::script

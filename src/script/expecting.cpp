@@ -5,7 +5,7 @@
 #include "script/interpreter.h"
 #include "script/show.h"
 
-namespace tarvane {
+namespace tarvane::script {
 
 void Interpreter::Fail(std::string_view expected, std::string_view got) {
   ++failures_;
@@ -14,7 +14,8 @@ void Interpreter::Fail(std::string_view expected, std::string_view got) {
 
 void Interpreter::Show(Arguments arguments) {
   for (const Argument& address : arguments) {
-    for (const std::string& line : Shown(address.source, Any(address))) host_.Tell(line);
+    const Control& control = Any(address);
+    Try([&] { TellControl(address.source, control, [this](std::string_view line) { host_.Tell(line); }); });
   }
 }
 
@@ -29,12 +30,12 @@ void Interpreter::Expect(Arguments arguments) {
   if (arguments.size() == 4) return ExpectCell(arguments);
   if (arguments.size() == 3) throw ScriptError("expect wants CONTROL TEXT or GRID ROW COLUMN TEXT");
   const Control& control = Any(arguments[0]);
-  if (dynamic_cast<const Grid*>(&control) != nullptr) {
+  if (As<Grid>(control) != nullptr) {
     throw ScriptError(Place(arguments[0], control) + " is a grid: expect GRID ROW COLUMN TEXT");
   }
   const std::string value = ValueOf(control);
   if (value == arguments[1].text) return;
-  const bool on_or_off = dynamic_cast<const TickBox*>(&control) != nullptr;
+  const bool on_or_off = As<TickBox>(control) != nullptr;
   const std::string wanted = on_or_off ? arguments[1].text : InQuotes(arguments[1].text);
   Fail(fmt::format("{} = {}", Place(arguments[0], control), wanted), PrintedValueOf(control));
 }
@@ -62,14 +63,12 @@ void Interpreter::ExpectRows(Arguments arguments) {
 
 void Interpreter::ExpectEntries(Arguments arguments) {
   const Control& control = Any(arguments[0]);
-  std::size_t entries = 0;
-  if (const auto* drop_down = dynamic_cast<const DropDownList*>(&control)) {
-    entries = drop_down->entries().size();
-  } else if (const auto* list = dynamic_cast<const ListBox*>(&control)) {
-    entries = list->entries().size();
-  } else {
-    throw ScriptError(fmt::format("{} is {}, not a list", Place(arguments[0], control), KindOf(control)));
-  }
+  const std::size_t entries = VisitKind(
+      control, [](const DropDownList& list) { return list.entries().size(); },
+      [](const ListBox& list) { return list.entries().size(); },
+      [&](const Control& other) -> std::size_t {
+        throw ScriptError(fmt::format("{} is {}, not a list", Place(arguments[0], other), KindOf(other)));
+      });
   const std::int64_t wanted = WholeNumber(arguments[1]);
   if (static_cast<std::int64_t>(entries) == wanted) return;
   Fail(fmt::format("{} with {} entries", Place(arguments[0], control), wanted), fmt::format("{}", entries));
@@ -136,4 +135,4 @@ void Interpreter::ExpectLaunched(Arguments arguments) {
   Fail("a hand-over with " + InQuotes(arguments[0].text), "none so far");
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::script

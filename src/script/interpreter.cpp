@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <charconv>
 
-namespace tarvane {
+namespace tarvane::script {
 
 Interpreter::Interpreter(ScriptHost& host, LineReader& lines, std::ostream& err)
     : host_(host), lines_(lines), err_(err) {
@@ -68,7 +68,21 @@ void Interpreter::RunCommand(const std::vector<Argument>& words) {
   if (count < command->least || count > command->most) {
     throw ScriptError(fmt::format("{} wants {}", name, command->usage));
   }
-  (this->*command->run)(Arguments(words).subspan(1));
+  const bool done = Try([&] { (this->*command->run)(Arguments(words).subspan(1)); });
+  if (!done && name.starts_with("expect")) {
+    std::string wanted = "an answer to";
+    for (const Argument& word : words) wanted += " " + word.source;
+    Fail(wanted, "a fault");
+  }
+}
+
+bool Interpreter::Try(const std::function<void()>& step) {
+  bool done = false;
+  top().Guard([&] {
+    step();
+    done = true;
+  });
+  return done;
 }
 
 void Interpreter::RequireNothingLeft() {
@@ -88,4 +102,4 @@ std::int64_t WholeNumber(const Argument& word) {
   return number;
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::script

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <limits>
 #include <ostream>
 #include <span>
@@ -11,7 +12,7 @@
 #include "script/script_host.h"
 #include "script/script_line.h"
 
-namespace tarvane {
+namespace tarvane::script {
 
 // Runs the commands of a script on the screens that its host shows. docs/script-language.md tells the
 // language.
@@ -41,6 +42,9 @@ class Interpreter {
   // Until the screen is closed; ProcessEnd at the end of the script.
   void Serve(const Screen& screen);
   void RunCommand(const std::vector<Argument>& words);
+  // Runs a step of a command. False where the program failed in it: that is told as the program tells a
+  // fault.
+  bool Try(const std::function<void()>& step);
 
   // What the worker does: acting.cpp.
   void Type(Arguments arguments);
@@ -104,4 +108,4 @@ class Interpreter {
 // A row, a column or a count; ScriptError where the word isn't a whole number from 0.
 std::int64_t WholeNumber(const Argument& word);
 
-}  // namespace tarvane
+}  // namespace tarvane::script

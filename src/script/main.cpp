@@ -1,3 +1,4 @@
+#include <chrono>
 #include <exception>
 #include <fstream>
 #include <iostream>
@@ -8,34 +9,41 @@
 #include "script/run_script.h"
 #include "script/script_error.h"
 #include "script/script_options.h"
+#include "shop/shop_lock.h"
+#include "text/fault.h"
 
 namespace {
 
-int Run(const tarvane::ScriptOptions& options) {
+constexpr std::chrono::seconds kWaitForFolder{10};
+
+int Run(const tarvane::script::ScriptOptions& options) {
   std::ifstream file;
   if (options.script) {
     file.open(*options.script, std::ios::binary);
     if (!file || std::filesystem::is_directory(*options.script)) {
-      throw tarvane::ScriptError("can't read the script " + options.script->string());
+      throw tarvane::script::ScriptError("can't read the script " + options.script->string());
     }
   }
+  const auto lock = tarvane::ShopLock::Take(options.folder, kWaitForFolder);
+  if (!lock) throw tarvane::Fault(tarvane::ShopIsOpenText(options.folder));
   std::istream& script = options.script ? file : std::cin;
-  return tarvane::RunScript(options.settings, script, options.script.has_value(), std::cout, std::cerr,
-                            [&options](tarvane::Host& host) {
-                              tarvane::MainScreen screen(host, options.folder);
-                              screen.RunAsMain();
-                            });
+  return tarvane::script::RunScript(options.settings, script, options.script.has_value(), std::cout,
+                                    std::cerr, [&options](tarvane::Host& host) {
+                                      tarvane::Shop shop(options.folder);
+                                      tarvane::app::MainScreen screen(host, shop);
+                                      screen.RunAsMain();
+                                    });
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
   try {
-    return Run(tarvane::ParseScriptOptions(std::vector<std::string>(argv + 1, argv + argc)));
-  } catch (const tarvane::ScriptError& error) {
-    std::cerr << "tarvane-script: " << error.text() << '\n' << tarvane::kScriptUsage;
+    return Run(tarvane::script::ParseScriptOptions(std::vector<std::string>(argv + 1, argv + argc)));
+  } catch (const tarvane::script::ScriptError& error) {
+    std::cerr << "tarvane-script: " << error.text() << '\n' << tarvane::script::kScriptUsage;
   } catch (const std::exception& error) {
     std::cerr << "tarvane-script: " << error.what() << '\n';
   }
-  return tarvane::kScriptWrong;
+  return tarvane::script::kScriptWrong;
 }

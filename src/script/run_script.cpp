@@ -1,10 +1,11 @@
 #include "script/run_script.h"
 
+#include <exception>
+
 #include "script/interpreter.h"
 #include "script/script_error.h"
-#include "text_number/fault.h"
 
-namespace tarvane {
+namespace tarvane::script {
 namespace {
 
 void RunProgram(const std::function<void(Host&)>& program, Host& host) {
@@ -27,11 +28,11 @@ ScriptStatus RunScript(const ScriptSettings& settings, std::istream& script, boo
   } catch (const ScriptError& error) {
     err << "line " << lines.line() << ": " << error.text() << std::endl;
     return kScriptWrong;
-  } catch (const Fault& fault) {
-    err << "line " << lines.line() << ": the program failed: " << fault.what() << std::endl;
+  } catch (const std::exception& error) {
+    err << "line " << lines.line() << ": the program failed: " << error.what() << std::endl;
     return kScriptWrong;
   }
   return interpreter.failures() == 0 ? kAllHeld : kSomeFailed;
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::script

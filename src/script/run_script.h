@@ -6,7 +6,7 @@
 
 #include "script/script_host.h"
 
-namespace tarvane {
+namespace tarvane::script {
 
 // What a process gives back.
 enum ScriptStatus { kAllHeld = 0, kSomeFailed = 1, kScriptWrong = 2 };
@@ -17,4 +17,4 @@ enum ScriptStatus { kAllHeld = 0, kSomeFailed = 1, kScriptWrong = 2 };
 ScriptStatus RunScript(const ScriptSettings& settings, std::istream& script, bool to_the_end,
                        std::ostream& out, std::ostream& err, const std::function<void(Host&)>& program);
 
-}  // namespace tarvane
+}  // namespace tarvane::script

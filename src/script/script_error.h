@@ -3,7 +3,7 @@
 #include <string>
 #include <utility>
 
-namespace tarvane {
+namespace tarvane::script {
 
 // The script itself is wrong: it stops here. Not a Fault: no screen may take it for one of its own.
 class ScriptError {
@@ -19,4 +19,4 @@ class ScriptError {
 // Unwinds everything that runs: the process ends at once.
 struct ProcessEnd {};
 
-}  // namespace tarvane
+}  // namespace tarvane::script

@@ -3,13 +3,13 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <ctime>
 
 #include "screen/screen.h"
 #include "script/script_error.h"
 #include "script/script_line.h"
+#include "text/utf8.h"
 
-namespace tarvane {
+namespace tarvane::script {
 namespace {
 
 // In the order of enum Answer.
@@ -17,18 +17,12 @@ constexpr std::string_view kAnswerWords[] = {"yes", "no", "ok", "cancel"};
 
 std::string_view Word(Answer answer) { return kAnswerWords[static_cast<std::size_t>(answer)]; }
 
-// Characters of a UTF-8 text: every byte but those that go on with one.
-std::size_t Characters(std::string_view text) {
-  return static_cast<std::size_t>(
-      std::ranges::count_if(text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
-}
-
 // Pieces at their columns; one that begins before the last one ends stands behind it.
 std::string SetOut(const PrintedLine& line) {
   std::string text;
   for (const PrintedPiece& piece : line) {
     const auto column = static_cast<std::size_t>(std::max(piece.column, 0));
-    const std::size_t width = Characters(text);
+    const std::size_t width = CountCharacters(text);
     if (width < column) text.append(column - width, ' ');
     text += OnOneLine(piece.text);
   }
@@ -103,13 +97,7 @@ std::optional<std::filesystem::path> ScriptHost::ChooseFile(FileChoice, std::str
 
 void ScriptHost::Beep() { Tell("beep"); }
 
-DateTime ScriptHost::Now() {
-  if (now_) return *now_;
-  const std::time_t seconds = std::time(nullptr);
-  std::tm local{};
-  localtime_r(&seconds, &local);
-  return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec};
-}
+DateTime ScriptHost::Now() { return now_.has_value() ? *now_ : LocalNow(); }
 
 int ScriptHost::RandomDigit() { return static_cast<int>(dice_() % 10); }
 
@@ -128,4 +116,4 @@ void ScriptHost::PrintPages(const std::vector<PrintedPage>& pages) {
 
 void ScriptHost::EndProcess() { throw ProcessEnd(); }
 
-}  // namespace tarvane
+}  // namespace tarvane::script

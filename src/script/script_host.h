@@ -13,7 +13,7 @@
 
 #include "screen/host.h"
 
-namespace tarvane {
+namespace tarvane::script {
 
 // How a script's surroundings are fixed.
 struct ScriptSettings {
@@ -85,4 +85,4 @@ class ScriptHost : public Host {
   int pages_ = 0;
 };
 
-}  // namespace tarvane
+}  // namespace tarvane::script

@@ -1,8 +1,9 @@
 #include "script/script_line.h"
 
 #include "script/script_error.h"
+#include "text/utf8.h"
 
-namespace tarvane {
+namespace tarvane::script {
 namespace {
 
 struct Escape {
@@ -96,10 +97,13 @@ std::string OnOneLine(std::string_view text) {
 
 std::optional<std::string> LineReader::Next() {
   std::string line;
-  if (!std::getline(in_, line)) return std::nullopt;
-  if (++line_ == 1 && line.starts_with("\xEF\xBB\xBF")) line.erase(0, 3);
+  if (!std::getline(in_, line)) {
+    if (in_.bad()) throw ScriptError("the script can't be read any further");
+    return std::nullopt;
+  }
+  if (++line_ == 1) line = std::string(WithoutByteOrderMark(line));
   if (line.ends_with('\r')) line.pop_back();
   return line;
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::script

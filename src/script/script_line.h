@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-namespace tarvane {
+namespace tarvane::script {
 
 // One word of a command line.
 struct Argument {
@@ -29,7 +29,7 @@ std::string OnOneLine(std::string_view text);
 class LineReader {
  public:
   explicit LineReader(std::istream& in) : in_(in) {}
-  // Without its line end. Nothing at the end of the script.
+  // Without its line end. Nothing at the end of the script; ScriptError where it can't be read to there.
   std::optional<std::string> Next();
   // The number of the newest line, 0 before the first.
   int line() const { return line_; }
@@ -39,4 +39,4 @@ class LineReader {
   int line_ = 0;
 };
 
-}  // namespace tarvane
+}  // namespace tarvane::script

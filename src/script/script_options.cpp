@@ -1,12 +1,11 @@
 #include "script/script_options.h"
 
 #include <charconv>
-#include <chrono>
 #include <vector>
 
 #include "script/script_error.h"
 
-namespace tarvane {
+namespace tarvane::script {
 namespace {
 
 template <typename Number>
@@ -15,13 +14,6 @@ std::optional<Number> Digits(std::string_view text) {
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
   return number;
-}
-
-bool IsRealTime(const DateTime& time) {
-  const std::chrono::year_month_day date{std::chrono::year(time.year),
-                                         std::chrono::month(static_cast<unsigned>(time.month)),
-                                         std::chrono::day(static_cast<unsigned>(time.day))};
-  return date.ok() && time.hour < 24 && time.minute < 60 && time.second < 60;
 }
 
 DateTime ParseNow(const std::string& text) {
@@ -34,8 +26,9 @@ DateTime ParseNow(const std::string& text) {
     const auto part = [&text](std::size_t at, std::size_t size) {
       return Digits<int>(std::string_view(text).substr(at, size)).value_or(0);
     };
-    const DateTime time = {part(0, 4), part(5, 2), part(8, 2), part(11, 2), part(14, 2), part(17, 2)};
-    if (IsRealTime(time)) return time;
+    const DateTime time = {MakeDay(part(0, 4), part(5, 2), part(8, 2)), part(11, 2), part(14, 2),
+                           part(17, 2)};
+    if (time.day.ok() && time.hour < 24 && time.minute < 60 && time.second < 60) return time;
   }
   throw ScriptError("--now wants a time such as 2026-05-04T09:30:00");
 }
@@ -51,12 +44,15 @@ std::uint32_t ParseSeed(const std::string& text) {
 ScriptOptions ParseScriptOptions(std::span<const std::string> arguments) {
   ScriptOptions options;
   std::vector<std::string> paths;
+  bool ended = false;
   for (std::size_t at = 0; at < arguments.size(); ++at) {
     const std::string& word = arguments[at];
-    if (!word.starts_with("--")) {
+    if (ended || !word.starts_with("--")) {
       paths.push_back(word);
       continue;
     }
+    ended = word == "--";
+    if (ended) continue;
     if (word != "--now" && word != "--seed") throw ScriptError("unknown option " + word);
     if (++at == arguments.size()) throw ScriptError(word + " wants a value");
     if (word == "--now") options.settings.now = ParseNow(arguments[at]);
@@ -66,8 +62,9 @@ ScriptOptions ParseScriptOptions(std::span<const std::string> arguments) {
   if (paths.size() > 2) throw ScriptError("one folder and one script are all it takes");
   options.folder = paths[0];
   if (paths.size() == 2) options.script = paths[1];
-  if (!std::filesystem::is_directory(options.folder)) throw ScriptError("no folder " + paths[0]);
+  std::error_code ignored;
+  if (!std::filesystem::is_directory(options.folder, ignored)) throw ScriptError("no folder " + paths[0]);
   return options;
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::script

@@ -7,7 +7,7 @@
 
 #include "script/script_host.h"
 
-namespace tarvane {
+namespace tarvane::script {
 
 // The command line of tarvane-script.
 struct ScriptOptions {
@@ -17,9 +17,9 @@ struct ScriptOptions {
 };
 
 inline constexpr const char* kScriptUsage =
-    "usage: tarvane-script [--now YYYY-MM-DDTHH:MM:SS] [--seed N] FOLDER [SCRIPT]\n";
+    "usage: tarvane-script [--now YYYY-MM-DDTHH:MM:SS] [--seed N] [--] FOLDER [SCRIPT]\n";
 
 // `arguments`: without the program's name. ScriptError tells what is wrong with them.
 ScriptOptions ParseScriptOptions(std::span<const std::string> arguments);
 
-}  // namespace tarvane
+}  // namespace tarvane::script

@@ -10,29 +10,34 @@
 #include "setup/data_folder.h"
 #include "setup/setup.h"
 
-namespace tarvane {
+namespace tarvane::setup {
 
 namespace {
 
 constexpr std::string_view kUsage =
-    "usage: tarvane-setup FOLDER [--sample] [--data DIR]\n"
+    "usage: tarvane-setup [--sample] [--data DIR] [--] FOLDER\n"
     "\n"
     "Lays down a program folder: databases, settings, lists, letters and fonts.\n"
     "What is in FOLDER already stays as it is.\n"
     "\n"
     "  --sample     fill the new jobs database with the jobs of an invented shop\n"
-    "  --data DIR   take what is laid down from DIR\n";
+    "  --data DIR   take what is laid down from DIR\n"
+    "  --           what follows is no option\n";
 
 // Nothing where the arguments make no command.
 std::optional<SetupOptions> ParseArguments(const std::vector<std::string>& arguments) {
   SetupOptions options;
+  bool ended = false;
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     const std::string& argument = arguments[i];
-    if (argument == "--sample") {
+    const bool option = !ended && argument.starts_with("--");
+    if (option && argument == "--") {
+      ended = true;
+    } else if (option && argument == "--sample") {
       options.sample = true;
-    } else if (argument == "--data" && i + 1 < arguments.size()) {
+    } else if (option && argument == "--data" && i + 1 < arguments.size()) {
       options.data = arguments[++i];
-    } else if (!argument.empty() && !argument.starts_with("--") && options.folder.empty()) {
+    } else if (!option && !argument.empty() && options.folder.empty()) {
       options.folder = argument;
     } else {
       return std::nullopt;
@@ -58,16 +63,16 @@ std::string_view Word(SetupResult result) {
 }  // namespace
 
 int RunSetup(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err) {
-  if (arguments == std::vector<std::string>{"--help"}) {
-    out << kUsage;
-    return 0;
-  }
-  const auto options = ParseArguments(arguments);
-  if (!options) {
-    err << kUsage;
-    return 2;
-  }
   try {
+    if (arguments == std::vector<std::string>{"--help"}) {
+      out << kUsage;
+      return 0;
+    }
+    const auto options = ParseArguments(arguments);
+    if (!options) {
+      err << kUsage;
+      return 2;
+    }
     SetUpFolder(*options, [&out](std::string_view name, SetupResult result) {
       out << fmt::format("{}: {}\n", name, Word(result));
     });
@@ -78,4 +83,4 @@ int RunSetup(const std::vector<std::string>& arguments, std::ostream& out, std::
   return 0;
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::setup

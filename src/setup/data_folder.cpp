@@ -5,15 +5,15 @@
 #include <utility>
 
 #include "store/data_files.h"
-#include "text_number/fault.h"
+#include "text/fault.h"
 
-namespace tarvane {
+namespace tarvane::setup {
 
 std::filesystem::path FindDataFolder() {
   namespace fs = std::filesystem;
   std::error_code error;
   const fs::path program = fs::read_symlink("/proc/self/exe", error);
-  const fs::path installed = program.parent_path().parent_path() / "share" / "tarvane";
+  fs::path installed = program.parent_path().parent_path() / "share" / "tarvane";
   if (!program.empty() && fs::is_directory(installed, error)) return installed;
   return TARVANE_SOURCE_DATA_DIR;
 }
@@ -24,4 +24,4 @@ std::string ReadDataFile(const std::filesystem::path& file) {
   return *std::move(content);
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::setup

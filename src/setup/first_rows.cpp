@@ -6,12 +6,13 @@
 #include <vector>
 
 #include "setup/data_folder.h"
+#include "shop/shop.h"
 #include "store/data_files.h"
 #include "store/database.h"
 #include "store/row_set.h"
 #include "store/table_definition.h"
 
-namespace tarvane {
+namespace tarvane::setup {
 
 namespace {
 
@@ -33,6 +34,23 @@ constexpr LetterFile kLetterFiles[] = {
     {"TxtLetter(6)", "letters/end_letter_2.txt"}, {"TxtLetter(7)", "letters/except.txt"},
 };
 
+// The company record repeats what the settings tell of the shop.
+struct Repeated {
+  std::string_view column;
+  std::string_view setting;
+};
+
+constexpr Repeated kCompanyDetails[] = {
+    {"Company Name", "CompanyName"},
+    {"Address", "CompanyAddress"},
+    {"Town", "CompanyAddress1"},
+    {"County", "CompanyAddress2"},
+    {"Post Code", "CompanyPostCode"},
+    {"Telephone No", "Telephone"},
+    {"Fax No", "Fax"},
+    {"Vat Number", "VatNumber"},
+};
+
 std::string ReadText(const fs::path& file) { return JoinLines(SplitLines(ReadDataFile(file))); }
 
 Values LetterValues(const fs::path& data) {
@@ -47,6 +65,10 @@ Values SectionValues(const TableDefinition& table, const fs::path& data) {
   for (const ColumnDefinition& column : table.columns) {
     std::string value = ReadProfileValue(text, table.name, column.name);
     if (!value.empty()) values.emplace_back(column.name, std::move(value));
+  }
+  if (table.name != kCompanyTable) return values;
+  for (const auto& [column, detail] : kCompanyDetails) {
+    values.emplace_back(column, ReadProfileValue(text, kAdminTable, detail));
   }
   return values;
 }
@@ -63,4 +85,4 @@ void AddFirstRow(Database& database, const TableDefinition& table, const fs::pat
   rows.Update();
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::setup

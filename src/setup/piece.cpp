@@ -11,7 +11,7 @@
 #include "store/database.h"
 #include "store/table_definition.h"
 
-namespace tarvane {
+namespace tarvane::setup {
 
 namespace {
 
@@ -26,6 +26,8 @@ constexpr std::string_view kTextFiles[] = {
 constexpr std::string_view kFontsFolder = "Fonts";
 
 void MakeDatabase(const fs::path& file, std::string_view name, const fs::path& data) {
+  // Gives the database the rights of all files that are laid down.
+  ReplaceFile(file, "");
   Database database(file, Database::Mode::kCreate);
   Database::Transaction transaction(database);
   for (const TableDefinition& table : TableDefinitions()) {
@@ -77,4 +79,4 @@ std::vector<LaidDownPiece> LaidDownPieces(const fs::path& data) {
   return pieces;
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::setup

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace tarvane {
+namespace tarvane::setup {
 
 // One file of a program folder.
 struct LaidDownPiece {
@@ -18,4 +18,4 @@ struct LaidDownPiece {
 // is read as the pieces are made, apart from the names of the fonts.
 std::vector<LaidDownPiece> LaidDownPieces(const std::filesystem::path& data);
 
-}  // namespace tarvane
+}  // namespace tarvane::setup

@@ -5,9 +5,9 @@
 #include <utility>
 
 #include "screen/screen.h"
-#include "text_number/fault.h"
+#include "text/fault.h"
 
-namespace tarvane {
+namespace tarvane::setup {
 
 void QuietHost::Await(std::string screen_name, Worker worker) {
   workers_.insert_or_assign(std::move(screen_name), std::move(worker));
@@ -44,4 +44,4 @@ void QuietHost::PrintPages(const std::vector<PrintedPage>&) { throw Fault("There
 
 void QuietHost::EndProcess() { throw Fault("The program has been ended."); }
 
-}  // namespace tarvane
+}  // namespace tarvane::setup

@@ -7,7 +7,7 @@
 
 #include "screen/host.h"
 
-namespace tarvane {
+namespace tarvane::setup {
 
 // A host for a program that runs by itself: each screen that is shown is served by the function that waits
 // for it. Information is passed over; what would need a person (a question, a warning, a file choice) is a
@@ -43,4 +43,4 @@ class QuietHost : public Host {
   DateTime now_;
 };
 
-}  // namespace tarvane
+}  // namespace tarvane::setup

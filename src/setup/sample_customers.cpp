@@ -1,6 +1,6 @@
 #include "setup/sample_tables.h"
 
-namespace tarvane {
+namespace tarvane::setup {
 
 namespace {
 
@@ -100,4 +100,4 @@ constexpr SampleCustomer kCustomers[] = {
 
 std::span<const SampleCustomer> SampleCustomers() { return kCustomers; }
 
-}  // namespace tarvane
+}  // namespace tarvane::setup

@@ -13,11 +13,11 @@
 #include "setup/quiet_host.h"
 #include "setup/sample_tables.h"
 #include "setup/sample_wizard.h"
-#include "text_number/fault.h"
+#include "text/fault.h"
 #include "text_number/text_number.h"
 #include "tools/enter_sales_person.h"
 
-namespace tarvane {
+namespace tarvane::setup {
 
 namespace {
 
@@ -30,14 +30,8 @@ constexpr int kManor = 9;          // every room in use
 constexpr int kJustAsked = 53;     // no items yet
 constexpr int kFirstOpenJob = 36;  // those before are done, lost or waiting for something
 
-DateTime DayOf(int job, int later = 0) {
-  const std::chrono::year_month_day day(kFirstDay + std::chrono::days(job * kDaysBetweenJobs + later));
-  return {.year = static_cast<int>(day.year()),
-          .month = static_cast<int>(static_cast<unsigned>(day.month())),
-          .day = static_cast<int>(static_cast<unsigned>(day.day())),
-          .hour = 9 + job % 8,
-          .minute = job * 7 % 60};
-}
+Day DayOf(int job, int later = 0) { return kFirstDay + std::chrono::days(job * kDaysBetweenJobs + later); }
+DateTime TimeOf(int job) { return {.day = DayOf(job), .hour = 9 + job % 8, .minute = job * 7 % 60}; }
 
 std::string Money(int pence) { return fmt::format("{}.{:02}", pence / 100, pence % 100); }
 
@@ -47,16 +41,17 @@ bool IsCompleted(int job) { return job < kFirstOpenJob && job % 5 != 2 && !IsLos
 // The rooms of a job, from 1.
 std::vector<int> RoomsOf(int job) {
   if (job == kJustAsked || job % 13 == 5) return {};
-  const int count = job == kManor ? static_cast<int>(kRoomCount) : 1 + job * 7 % 4;
+  const int count = job == kManor ? static_cast<int>(job::kRoomCount) : 1 + job * 7 % 4;
   const int stride = job % 4 == 3 ? 5 : 1;
   std::vector<int> rooms;
-  for (int i = 0; i < count; ++i) rooms.push_back(1 + i * stride % static_cast<int>(kRoomCount));
+  rooms.reserve(static_cast<std::size_t>(count));
+  for (int i = 0; i < count; ++i) rooms.push_back(1 + i * stride % static_cast<int>(job::kRoomCount));
   return rooms;
 }
 
 class SampleShop {
  public:
-  explicit SampleShop(const std::filesystem::path& folder) : screen_(host_, folder) {}
+  explicit SampleShop(const std::filesystem::path& folder) : shop_(folder) {}
 
   void Fill() {
     host_.Await("frmSplash", [](Screen& splash) { splash.Close(); });
@@ -66,11 +61,10 @@ class SampleShop {
 
  private:
   void FillJobs() {
-    if (screen_.database() == nullptr) throw Fault(screen_.Label8[0].caption());
-    Database::Transaction transaction(*screen_.database());
+    Database::Transaction transaction(shop_.database());
     const int count = static_cast<int>(SampleCustomers().size());
     for (int job = 0; job < count; ++job) {
-      host_.SetNow(DayOf(job));
+      host_.SetNow(TimeOf(job));
       StartJob(job);
       EnterCustomer(job);
       EnterRooms(job);
@@ -86,7 +80,7 @@ class SampleShop {
 
   void StartJob(int job) {
     host_.Await("FrmEnterSalesPerson", [job](Screen& screen) {
-      auto& asked = dynamic_cast<FrmEnterSalesPerson&>(screen);
+      auto& asked = dynamic_cast<tools::FrmEnterSalesPerson&>(screen);
       const std::size_t persons = asked.CboSalesPerson.entries().size();
       if (persons > 0) asked.CboSalesPerson.UserPick(static_cast<std::size_t>(job) % persons);
       asked.Command1.UserPress();
@@ -127,7 +121,7 @@ class SampleShop {
     const SampleWindow& window =
         windows[static_cast<std::size_t>(job * 3 + job / 16 + nth * 5) % windows.size()];
     host_.Await("MainCWizard", [&window, job](Screen& screen) {
-      EnterWindow(dynamic_cast<MainCWizard&>(screen), window, window.track + job % 7 * 2);
+      EnterWindow(dynamic_cast<curtain_wizard::MainCWizard&>(screen), window, window.track + job % 7 * 2);
     });
     screen_.CommandButton("Command1", 0).UserPress();
   }
@@ -142,7 +136,7 @@ class SampleShop {
       rows.push_back({"", std::to_string(single.quantity), std::string(single.description),
                       Money(single.pence), Money(single.quantity * single.pence)});
     }
-    screen_.SingleItems.SetText(WriteItemLines(rows, kSingleItemLayout));
+    screen_.SingleItems.SetText(job::WriteItemLines(rows, job::kSingleItemLayout));
     screen_.LoadSingles();
     screen_.cal();
   }
@@ -157,7 +151,7 @@ class SampleShop {
       screen_.CompletionDate.UserType(ShortDate(DayOf(job, kWeeksToMake * 7)));
       screen_.FittingDate.UserType(ShortDate(DayOf(job, kWeeksToMake * 7 + 3)));
     }
-    const std::size_t done = IsCompleted(job) ? kCheckListCount : static_cast<std::size_t>(job % 8);
+    const std::size_t done = IsCompleted(job) ? job::kCheckListCount : static_cast<std::size_t>(job % 8);
     for (std::size_t i = 0; i < done; ++i) screen_.CheckList[i].UserSet(true);
   }
 
@@ -183,11 +177,12 @@ class SampleShop {
   }
 
   QuietHost host_;
-  MainScreen screen_;
+  Shop shop_;
+  app::MainScreen screen_{host_, shop_};
 };
 
 }  // namespace
 
 void FillSampleShop(const std::filesystem::path& folder) { SampleShop(folder).Fill(); }
 
-}  // namespace tarvane
+}  // namespace tarvane::setup

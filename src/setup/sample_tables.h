@@ -5,7 +5,7 @@
 
 // What the sample shop is made of. All people, towns and firms are invented; telephone numbers are of the
 // ranges that are kept free for such.
-namespace tarvane {
+namespace tarvane::setup {
 
 struct SampleCustomer {
   std::string_view name;
@@ -76,4 +76,4 @@ std::span<const SampleCustomer> SampleCustomers();
 std::span<const SampleWindow> SampleWindows();
 std::span<const SampleSingle> SampleSingles();
 
-}  // namespace tarvane
+}  // namespace tarvane::setup

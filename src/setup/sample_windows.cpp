@@ -1,6 +1,6 @@
 #include "setup/sample_tables.h"
 
-namespace tarvane {
+namespace tarvane::setup {
 
 namespace {
 
@@ -370,4 +370,4 @@ constexpr SampleSingle kSingles[] = {
 std::span<const SampleWindow> SampleWindows() { return kWindows; }
 std::span<const SampleSingle> SampleSingles() { return kSingles; }
 
-}  // namespace tarvane
+}  // namespace tarvane::setup

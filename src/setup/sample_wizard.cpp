@@ -5,10 +5,11 @@
 #include <string_view>
 
 #include "curtain_wizard/wizard.h"
+#include "screen/kinds.h"
 #include "setup/sample_tables.h"
-#include "text_number/fault.h"
+#include "text/fault.h"
 
-namespace tarvane {
+namespace tarvane::setup {
 
 namespace {
 
@@ -25,13 +26,14 @@ void Pick(DropDownList& list, std::string_view entry) {
   list.UserPick(static_cast<std::size_t>(found - list.entries().begin()));
 }
 
-void Tick(MainCWizard& wizard, std::string_view name) {
-  auto* box = dynamic_cast<TickBox*>(wizard.Find(name));
+void Tick(curtain_wizard::MainCWizard& wizard, std::string_view name) {
+  Control* const control = wizard.Find(name);
+  auto* const box = control == nullptr ? nullptr : As<TickBox>(*control);
   if (box == nullptr) throw Fault("The wizard has no box " + std::string(name) + ".");
   box->UserSet(true);
 }
 
-void EnterMeasurements(MainCWizard& wizard, const SampleWindow& window, int track) {
+void EnterMeasurements(curtain_wizard::MainCWizard& wizard, const SampleWindow& window, int track) {
   wizard.TxtDescription.UserType(window.description);
   Pick(wizard.CboCurtainStyle, window.style);
   wizard.InputInInches.UserSet(window.inches);
@@ -52,7 +54,7 @@ void EnterMeasurements(MainCWizard& wizard, const SampleWindow& window, int trac
   if (!window.auto_measure.empty()) Tick(wizard, window.auto_measure);
 }
 
-void EnterTape(MainCWizard& wizard, const SampleWindow& window) {
+void EnterTape(curtain_wizard::MainCWizard& wizard, const SampleWindow& window) {
   Type(wizard.TapePrice, window.tape_price);
   if (window.tie_backs.size.empty()) return;
   wizard.TieBacksNeeded.UserSet(true);
@@ -61,7 +63,7 @@ void EnterTape(MainCWizard& wizard, const SampleWindow& window) {
   Type(wizard.TxtTieBacksUnitPrice, window.tie_backs.price);
 }
 
-void EnterLining(MainCWizard& wizard, const SampleWindow& window) {
+void EnterLining(curtain_wizard::MainCWizard& wizard, const SampleWindow& window) {
   wizard.LiningByWidths.UserSet(window.lining_by_metres);
   if (!window.lining.name.empty()) {
     wizard.LiningNeeded.UserSet(true);
@@ -75,7 +77,7 @@ void EnterLining(MainCWizard& wizard, const SampleWindow& window) {
   }
 }
 
-void EnterTrim(MainCWizard& wizard, const SampleTrim& trim) {
+void EnterTrim(curtain_wizard::MainCWizard& wizard, const SampleTrim& trim) {
   if (trim.kind.empty()) {
     wizard.TrimName.SetText("");
     return;
@@ -91,7 +93,7 @@ void EnterTrim(MainCWizard& wizard, const SampleTrim& trim) {
   Type(wizard.TrimPrice, trim.price);
 }
 
-void EnterLabour(MainCWizard& wizard, const SampleWindow& window) {
+void EnterLabour(curtain_wizard::MainCWizard& wizard, const SampleWindow& window) {
   Type(wizard.LabourPrice, window.labour_price);
   Type(wizard.TieBackLabour, window.tie_back_labour);
   if (window.extra_labour_text.empty()) return;
@@ -101,7 +103,7 @@ void EnterLabour(MainCWizard& wizard, const SampleWindow& window) {
 
 }  // namespace
 
-void EnterWindow(MainCWizard& wizard, const SampleWindow& window, int track) {
+void EnterWindow(curtain_wizard::MainCWizard& wizard, const SampleWindow& window, int track) {
   EnterMeasurements(wizard, window, track);
   wizard.CmdNext.UserPress();
   Type(wizard.FabricName, window.fabric);
@@ -122,4 +124,4 @@ void EnterWindow(MainCWizard& wizard, const SampleWindow& window, int track) {
     throw Fault("The item \"" + std::string(window.description) + "\" cannot be saved.");
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::setup

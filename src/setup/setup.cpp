@@ -1,6 +1,7 @@
 #include "setup/setup.h"
 
 #include <fmt/format.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -11,10 +12,11 @@
 
 #include "setup/piece.h"
 #include "setup/sample_shop.h"
+#include "shop/shop_lock.h"
 #include "store/data_files.h"
-#include "text_number/fault.h"
+#include "text/fault.h"
 
-namespace tarvane {
+namespace tarvane::setup {
 
 namespace {
 
@@ -26,21 +28,27 @@ constexpr std::string_view kSampleName = "sample shop";
   throw Fault(fmt::format("{} {}: {}.", what, path.string(), error.message()));
 }
 
-// Makes the folder and its parents; true where it wasn't there.
+// Makes the folder and its parents, for owner and group; true where it wasn't there.
 bool MakeFolder(const fs::path& folder) {
+  constexpr mode_t kOwnerAndGroup = 0770;
   std::error_code error;
-  const bool created = fs::create_directories(folder, error);
-  if (!error && !fs::is_directory(folder)) error = std::make_error_code(std::errc::not_a_directory);
-  if (error) ThrowFault("Cannot create the folder", folder, error);
-  return created;
+  if (fs::is_directory(folder, error)) return false;
+  if (folder.has_parent_path()) MakeFolder(folder.parent_path());
+  if (folder.has_filename() && ::mkdir(folder.c_str(), kOwnerAndGroup) != 0 && !fs::is_directory(folder)) {
+    const int cause = errno == EEXIST ? ENOTDIR : errno;
+    ThrowFault("Cannot create the folder", folder, {cause, std::generic_category()});
+  }
+  return true;
 }
+
+constexpr std::string_view kStagingName = ".tarvane-setup-";
 
 // A folder of its own inside the program folder, so that what is made in it can be moved by a rename. It
 // goes, with all that is still in it, at the end.
 class StagingFolder {
  public:
   explicit StagingFolder(const fs::path& folder) {
-    std::string name = (folder / ".tarvane-setup-XXXXXX").string();
+    std::string name = (folder / fmt::format("{}XXXXXX", kStagingName)).string();
     if (mkdtemp(name.data()) == nullptr) {
       ThrowFault("Cannot write into the folder", folder, {errno, std::generic_category()});
     }
@@ -58,6 +66,16 @@ class StagingFolder {
   fs::path path_;
 };
 
+// Those of runs that were killed. Only for one who has the folder alone.
+void RemoveStagingFolders(const fs::path& folder) {
+  std::vector<fs::path> left;
+  std::error_code error;
+  for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+    if (entry->path().filename().string().starts_with(kStagingName)) left.push_back(entry->path());
+  }
+  for (const fs::path& path : left) fs::remove_all(path, error);
+}
+
 bool IsThere(const fs::path& folder, const LaidDownPiece& piece) {
   const fs::path file = FindFile(folder, piece.name);
   std::error_code error;
@@ -66,6 +84,22 @@ bool IsThere(const fs::path& folder, const LaidDownPiece& piece) {
     throw Fault(fmt::format("{} is a folder; a file should be there.", file.string()));
   if (status.type() == fs::file_type::none) ThrowFault("Cannot look at", file, error);
   return fs::exists(fs::symlink_status(file, error));
+}
+
+// A fresh database would get the changes that its lost namesake hadn't finished.
+void RequireNoJournal(const fs::path& folder, const LaidDownPiece& piece) {
+  for (const std::string_view end : {"-journal", "-wal"}) {
+    const fs::path journal = FindFile(folder, fmt::format("{}{}", piece.name, end));
+    std::error_code error;
+    if (!fs::exists(journal, error) || (fs::is_regular_file(journal) && fs::file_size(journal) == 0))
+      continue;
+    throw Fault(fmt::format(
+        "{0} holds unfinished changes of the {1} that was here; a new {1} would take them for its own. If "
+        "the "
+        "old one has only been moved, put it back. If it is lost, move {0} to another folder. Then run "
+        "tarvane-setup again.",
+        journal.string(), fs::path(piece.name).filename().string()));
+  }
 }
 
 void Stage(const fs::path& staging, const std::vector<LaidDownPiece>& pieces) {
@@ -109,11 +143,15 @@ void LayDown(const SetupOptions& options, const std::vector<LaidDownPiece>& piec
 void SetUpFolder(const SetupOptions& options, const SetupReport& report) {
   const bool created = MakeFolder(options.folder);
   try {
+    const auto lock = ShopLock::Take(options.folder);
+    if (!lock) throw Fault(ShopIsOpenText(options.folder));
+    if (lock->holds()) RemoveStagingFolders(options.folder);
     const std::vector<LaidDownPiece> pieces = LaidDownPieces(options.data);
     std::vector<bool> there;
     bool jobs_there = false;
     for (const LaidDownPiece& piece : pieces) {
       there.push_back(IsThere(options.folder, piece));
+      if (!there.back()) RequireNoJournal(options.folder, piece);
       if (piece.name == data_file::kJobs) jobs_there = there.back();
     }
     LayDown(options, pieces, there, options.sample && !jobs_there, report);
@@ -125,4 +163,4 @@ void SetUpFolder(const SetupOptions& options, const SetupReport& report) {
   }
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::setup

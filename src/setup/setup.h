@@ -4,7 +4,7 @@
 #include <functional>
 #include <string_view>
 
-namespace tarvane {
+namespace tarvane::setup {
 
 struct SetupOptions {
   std::filesystem::path folder;  // the program folder; made where it isn't there, its parents too
@@ -21,9 +21,10 @@ enum class SetupResult {
 // Told once for each thing laid down: its name below the program folder, and what became of it.
 using SetupReport = std::function<void(std::string_view name, SetupResult result)>;
 
-// Lays down a program folder. Nothing that is there is changed. Everything is made whole in a folder beside
-// and then moved into its place, so that a fault leaves nothing half-made. Faults tell the file and the
-// cause.
+// Lays down a program folder, for owner and group. Nothing that is there is changed. Everything is made whole
+// in a folder beside and then moved into its place, so that a fault leaves nothing half-made; what a killed
+// run left of that goes first. Faults tell the file and the cause: also where another program has the folder
+// open, and where a journal that isn't empty waits for a database that isn't there.
 void SetUpFolder(const SetupOptions& options, const SetupReport& report);
 
-}  // namespace tarvane
+}  // namespace tarvane::setup

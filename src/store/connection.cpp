@@ -1,11 +1,14 @@
 #include "store/connection.h"
 
+#include <sys/stat.h>
+
+#include <algorithm>
 #include <cerrno>
+#include <cstdlib>
 #include <system_error>
 
-#include "store/like_pattern.h"
-#include "store/text_fold.h"
-#include "text_number/fault.h"
+#include "store/text_functions.h"
+#include "text/fault.h"
 
 namespace tarvane {
 
@@ -13,69 +16,34 @@ namespace {
 
 constexpr int kBusyMilliseconds = 2000;
 constexpr std::size_t kMostStatements = 64;
-constexpr std::uintmax_t kSmallestPage = 512;
+constexpr off_t kSmallestPage = 512;
 
 // Full synchronous with a truncated journal: a commit is on the disk when it returns.
 constexpr const char* kSettings =
     "PRAGMA journal_mode=TRUNCATE;"
     "PRAGMA synchronous=FULL;"
-    "PRAGMA trusted_schema=OFF;"
-    "PRAGMA cache_size=-1024;";
+    "PRAGMA cache_size=-1536;";
 
-struct Cause {
-  int code;
-  std::string_view text;
-};
+constexpr std::string_view kDamaged = "the file is damaged";
+constexpr const char* kReadMarks = "PRAGMA application_id; PRAGMA user_version";
 
-// Extended codes first: the first line that fits is told.
-constexpr Cause kCauses[] = {
-    {SQLITE_READONLY_ROLLBACK, "an unfinished change has to be undone first, and the file is read-only"},
-    {SQLITE_READONLY, "the file or its folder is read-only"},
-    {SQLITE_FULL, "the disk is full"},
-    {SQLITE_BUSY, "it is in use by another program"},
-    {SQLITE_LOCKED, "it is in use by another program"},
-    {SQLITE_NOTADB, "it is not a database"},
-    {SQLITE_CORRUPT, "the file is damaged"},
-    {SQLITE_IOERR_NOMEM, "there is not enough memory"},
-    {SQLITE_NOMEM, "there is not enough memory"},
-    {SQLITE_IOERR, "the disk reported an error"},
-    {SQLITE_CANTOPEN, "the file, or its journal beside it, can't be opened"},
-    {SQLITE_TOOBIG, "the text is too long"},
-};
-
-// Where the system's own number says more than SQLite's code.
-constexpr Cause kSystemCauses[] = {
-    {ENOSPC, "the disk is full"},
-    {EDQUOT, "the disk is full"},
-    {EACCES, "the right to use the file is missing"},
-    {EPERM, "the right to use the file is missing"},
-    {EROFS, "the disk is read-only"},
-    {EBADF, "the file's journal is read-only"},
-};
-
-int CompareTexts(void*, int left_size, const void* left, int right_size, const void* right) {
-  const auto order = CompareFolded({static_cast<const char*>(left), static_cast<std::size_t>(left_size)},
-                                   {static_cast<const char*>(right), static_cast<std::size_t>(right_size)});
-  return order < 0 ? -1 : (order > 0 ? 1 : 0);
+int TakeMark(void* marks, int, char** values, char** names) {
+  const bool version = std::string_view(names[0]) == "user_version";
+  auto& taken = *static_cast<FileMarks*>(marks);
+  (version ? taken.version : taken.application) = std::strtoll(values[0], nullptr, 10);
+  return 0;
 }
 
-std::string_view ValueText(sqlite3_value* value) {
-  const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
-  if (text == nullptr) return {};
-  return {text, static_cast<std::size_t>(sqlite3_value_bytes(value))};
-}
+// What is told beside the cause once a file is known to be damaged.
+constexpr std::string_view kWhatHelps =
+    " Nothing more is written to it. Keep a copy of the file; then bring back a backup, or have it repaired "
+    "as "
+    "docs/store.md tells under \"Damage\".";
 
-// The pattern is read once a statement, not once a row.
-void LikeInSql(sqlite3_context* context, int, sqlite3_value** values) {
-  auto* pattern = static_cast<LikePattern*>(sqlite3_get_auxdata(context, 1));
-  if (pattern == nullptr) {
-    auto made = std::make_unique<LikePattern>(ValueText(values[1]));
-    sqlite3_result_int(context, made->Matches(ValueText(values[0])) ? 1 : 0);
-    sqlite3_set_auxdata(context, 1, made.release(),
-                        [](void* old) { std::unique_ptr<LikePattern>(static_cast<LikePattern*>(old)); });
-    return;
-  }
-  sqlite3_result_int(context, pattern->Matches(ValueText(values[0])) ? 1 : 0);
+bool HasUnfinishedJournal(const std::filesystem::path& file) {
+  std::error_code error;
+  const auto size = std::filesystem::file_size(file.string() + "-journal", error);
+  return !error && size > 0;
 }
 
 }  // namespace
@@ -86,31 +54,22 @@ std::string QuotedName(std::string_view name) {
   return quoted + '"';
 }
 
-int RegisterTextFunctions(sqlite3* handle) {
-  const int code = sqlite3_create_collation_v2(handle, kFoldedCollation.data(), SQLITE_UTF8, nullptr,
-                                               CompareTexts, nullptr);
-  if (code != SQLITE_OK) return code;
-  return sqlite3_create_function_v2(handle, kLikeFunction.data(), 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC,
-                                    nullptr, LikeInSql, nullptr, nullptr, nullptr);
-}
-
 Connection::Connection(const std::filesystem::path& file, Database::Mode mode, const std::string& vfs)
-    : file_(file) {
+    : file_(file), vfs_(vfs), left_unfinished_(HasUnfinishedJournal(file)) {
   if (mode == Database::Mode::kExisting) {
-    std::error_code error;
-    const auto status = std::filesystem::status(file, error);
     const auto fail = [&](std::string_view cause) {
       throw Fault(file_.string() + " could not be opened: " + std::string(cause) + ".");
     };
-    if (!std::filesystem::exists(status)) {
-      fail(error && error != std::errc::no_such_file_or_directory && error != std::errc::not_a_directory
-               ? error.message()
-               : "the file is missing");
+    struct stat status {};
+    if (::stat(file.c_str(), &status) != 0) {
+      const int error = errno;
+      fail(error == ENOENT || error == ENOTDIR ? "the file is missing"
+                                               : std::generic_category().message(error));
     }
-    if (!std::filesystem::is_regular_file(status)) fail("it is not a file");
+    if (!S_ISREG(status.st_mode)) fail("it is not a file");
     // SQLite would take a file that is too short for a page to be a fresh database.
-    const auto size = std::filesystem::file_size(file, error);
-    if (!error && size < kSmallestPage) fail("it is not a database");
+    if (status.st_size < kSmallestPage) fail("it is not a database");
+    identity_ = {status.st_dev, status.st_ino};
   }
   Open(mode, vfs);
 }
@@ -122,15 +81,19 @@ void Connection::Open(Database::Mode mode, const std::string& vfs) {
   // One thread at a time uses a connection, so SQLite need not lock each call.
   const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_EXRESCODE | SQLITE_OPEN_NOMUTEX |
                     (mode == Database::Mode::kCreate ? SQLITE_OPEN_CREATE : 0);
-  int code = sqlite3_open_v2(file_.c_str(), &handle, flags, vfs.empty() ? nullptr : vfs.c_str());
+  // SQLite would read a name that begins with "file:" as an address.
+  const std::filesystem::path path = file_.is_absolute() ? file_ : "." / file_;
+  int code = sqlite3_open_v2(path.c_str(), &handle, flags, vfs.empty() ? nullptr : vfs.c_str());
   handle_.reset(handle);
   if (code != SQLITE_OK) Fail(code, "opened");
+  if (identity_.number == 0) identity_ = FileIdentity::Of(file_);
   sqlite3_busy_timeout(handle, kBusyMilliseconds);
   code = RegisterTextFunctions(handle);
   if (code == SQLITE_OK) code = sqlite3_exec(handle, kSettings, nullptr, nullptr, nullptr);
-  // Reads the schema, and with it finds out whether this is a database at all.
-  if (code == SQLITE_OK)
-    code = sqlite3_exec(handle, "SELECT 1 FROM sqlite_schema LIMIT 1", nullptr, nullptr, nullptr);
+  if (code == SQLITE_OK) code = sqlite3_db_config(handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+  // The first that is read of the file: so it is found out whether this is a database at all.
+  const std::string together = "BEGIN;" + std::string(kReadMarks) + ";COMMIT";
+  if (code == SQLITE_OK) code = sqlite3_exec(handle, together.c_str(), TakeMark, &marks_, nullptr);
   if (code != SQLITE_OK) Fail(code, "opened");
 }
 
@@ -166,11 +129,15 @@ void Connection::Change(const char* sql) {
 
 void Connection::Execute(const std::string& sql) {
   RowsChanged();
+  ForgetSchemas();
   Change(sql.c_str());
 }
 
 void Connection::Begin() {
-  if (depth_ == 0) Change("BEGIN IMMEDIATE");
+  if (depth_ == 0) {
+    Change("BEGIN IMMEDIATE");
+    ++transaction_;
+  }
   ++depth_;
 }
 
@@ -201,39 +168,83 @@ Connection::ReadTogether::~ReadTogether() {
 void Connection::Rollback() noexcept {
   if (--depth_ > 0) return;
   depth_ = 0;
+  undone_.push_back(transaction_);
+  ForgetSchemas();
   // SQLite may have rolled back already, by itself.
   if (sqlite3_get_autocommit(handle_.get()) == 0)
     sqlite3_exec(handle_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
   RowsChanged();
 }
 
+const FileMarks& Connection::ReadMarks() {
+  const int code = sqlite3_exec(handle_.get(), kReadMarks, TakeMark, &marks_, nullptr);
+  if (code != SQLITE_OK) Fail(code, "read");
+  return marks_;
+}
+
 void Connection::NoticeOtherWriters() {
   Statement version = Use("PRAGMA data_version");
   version.Step();
-  if (version.Number(0) != data_version_) RowsChanged();
+  if (version.Number(0) == data_version_) return;
   data_version_ = version.Number(0);
+  RowsChanged();
+  ForgetSchemas();
 }
 
-void Connection::Fail(int code, std::string_view action) const {
+std::shared_ptr<const TableSchema> Connection::Schema(std::string_view table) {
+  const auto found = schemas_.find(table);
+  if (found != schemas_.end()) return found->second;
+  auto schema = std::make_shared<const TableSchema>(ReadSchema(*this, table));
+  schemas_.emplace(table, schema);
+  return schema;
+}
+
+// A prepared statement tells the columns that there were when it was prepared.
+void Connection::ForgetSchemas() {
+  schemas_.clear();
+  std::erase_if(statements_, [](const auto& entry) { return !entry.second.lent; });
+}
+
+bool Connection::WasUndone(std::int64_t transaction) const {
+  return std::find(undone_.begin(), undone_.end(), transaction) != undone_.end();
+}
+
+void Connection::StopWriting(std::string cause) {
+  write_stop_ = std::move(cause);
+  sqlite3_exec(handle_.get(), "PRAGMA query_only=ON", nullptr, nullptr, nullptr);
+}
+
+void Connection::NoteDamage() {
+  damaged_ = true;
+  if (!writing_allowed_ && write_stop_.empty()) StopWriting(std::string(kDamaged));
+}
+
+void Connection::AllowWriting() {
+  if (write_stop_ != kDamaged) return;
+  writing_allowed_ = true;
+  write_stop_.clear();
+  sqlite3_exec(handle_.get(), "PRAGMA query_only=OFF", nullptr, nullptr, nullptr);
+}
+
+void Connection::Fail(int code, std::string_view action) {
   const int extended = handle_ ? sqlite3_extended_errcode(handle_.get()) : code;
-  const int told = (extended & 0xFF) == (code & 0xFF) ? extended : code;
-  std::string cause = handle_ ? sqlite3_errmsg(handle_.get()) : sqlite3_errstr(code);
-  for (const Cause& known : kCauses) {
-    if (told == known.code || (told & 0xFF) == known.code) {
-      cause = known.text;
-      break;
-    }
-  }
-  const int system = handle_ ? sqlite3_system_errno(handle_.get()) : 0;
-  const bool by_system = (told & 0xFF) == SQLITE_IOERR || (told & 0xFF) == SQLITE_CANTOPEN;
-  for (const Cause& known : kSystemCauses) {
-    if (by_system && system == known.code) cause = known.text;
-  }
-  // A commit that fails behind its last write may stand all the same.
-  const bool unsure = action == "changed" && (told == SQLITE_IOERR_FSYNC || told == SQLITE_IOERR_TRUNCATE ||
-                                              told == SQLITE_IOERR_DIR_FSYNC || told == SQLITE_IOERR_DELETE);
-  throw Fault(file_.string() + " could not be " + std::string(action) + ": " + cause + "." +
-              (unsure ? " The change may or may not have been saved." : ""));
+  last_failure_ = (extended & 0xFF) == (code & 0xFF) ? extended : code;
+  FaultCause cause = FindCause(handle_.get(), last_failure_, file_, identity_);
+  last_may_stand_ = action == "changed" && cause.may_stand;
+  if (cause.damage && action != "opened") NoteDamage();
+  const bool stopped = (last_failure_ & 0xFF) == SQLITE_READONLY && !write_stop_.empty();
+  if (stopped) cause.text = write_stop_;
+  throw Fault(file_.string() + " could not be " + std::string(action) + ": " + cause.text + "." +
+              (last_may_stand_ ? " The change may or may not have been saved." : "") +
+              std::string(cause.damage || (stopped && damaged_) ? kWhatHelps : ""));
+}
+
+void Connection::FailDamaged(std::string_view what) {
+  last_failure_ = SQLITE_CORRUPT;
+  last_may_stand_ = false;
+  NoteDamage();
+  throw Fault(file_.string() + " could not be read: " + std::string(kDamaged) + ": " + std::string(what) +
+              "." + std::string(kWhatHelps));
 }
 
 }  // namespace tarvane

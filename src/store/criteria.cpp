@@ -2,7 +2,7 @@
 
 #include "store/criterion_scanner.h"
 #include "store/like_pattern.h"
-#include "text_number/fault.h"
+#include "text/fault.h"
 
 namespace tarvane {
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "store/text_fold.h"
-#include "text_number/fault.h"
+#include "text/fault.h"
+#include "text/fold.h"
 
 namespace tarvane {
 

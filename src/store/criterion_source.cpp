@@ -1,7 +1,9 @@
 #include <algorithm>
+#include <string>
 #include <unordered_set>
 #include <utility>
 
+#include "store/connection.h"
 #include "store/row_source.h"
 
 namespace tarvane {
@@ -14,7 +16,8 @@ constexpr std::int64_t kFirstKeys = 64;  // a screenful; the others are read whe
 // change; a row added through this source comes last.
 class CriterionSource : public RowSource {
  public:
-  explicit CriterionSource(CriterionQuery query) : query_(std::move(query)) {}
+  CriterionSource(Connection& connection, const TableSchema& table, CriterionQuery query)
+      : connection_(connection), table_(table.quoted), query_(std::move(query)) {}
 
   std::int64_t Count() override {
     if (!complete_ && !query_.IsRange()) ReadAll();
@@ -77,7 +80,7 @@ class CriterionSource : public RowSource {
   void BeforeWrite() override { ReadAll(); }
 
   Place Added(std::int64_t key) override {
-    keys_.push_back(key);
+    if (keys_.empty() || keys_.back() != key) keys_.push_back(key);
     return {key, Size() - 1};
   }
 
@@ -85,6 +88,17 @@ class CriterionSource : public RowSource {
     keys_.erase(keys_.begin() + place.position);
     count_.reset();
     return At(place.position);
+  }
+
+  // All that went are taken out at once: one by one a long list would take for ever.
+  bool Lost(const Place& place) override {
+    ReadAll();
+    const std::vector<std::int64_t> named = query_.Keys();
+    if (std::find(named.begin(), named.end(), place.key) != named.end()) return true;
+    const std::string there = "SELECT 1 FROM " + table_ + " NOT INDEXED WHERE rowid = ?1";
+    std::erase_if(keys_, [&](std::int64_t key) { return !connection_.Use(there).Bind(1, key).Step(); });
+    count_.reset();
+    return false;
   }
 
   void RowsChanged(std::optional<Place>&) override { count_.reset(); }
@@ -115,6 +129,8 @@ class CriterionSource : public RowSource {
     complete_ = true;
   }
 
+  Connection& connection_;
+  std::string table_;
   CriterionQuery query_;
   std::vector<std::int64_t> keys_;
   std::optional<std::int64_t> count_;
@@ -123,8 +139,9 @@ class CriterionSource : public RowSource {
 
 }  // namespace
 
-std::unique_ptr<RowSource> MakeCriterionSource(CriterionQuery query) {
-  return std::make_unique<CriterionSource>(std::move(query));
+std::unique_ptr<RowSource> MakeCriterionSource(Connection& connection, const TableSchema& table,
+                                               CriterionQuery query) {
+  return std::make_unique<CriterionSource>(connection, table, std::move(query));
 }
 
 }  // namespace tarvane

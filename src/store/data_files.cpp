@@ -5,14 +5,13 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
-#include <fstream>
-#include <iterator>
 #include <system_error>
 #include <utility>
 
-#include "store/text_fold.h"
-#include "text_number/fault.h"
+#include "text/fault.h"
+#include "text/fold.h"
 
 namespace tarvane {
 
@@ -23,7 +22,7 @@ namespace fs = std::filesystem;
 // Closes a file on every way out.
 class OpenFile {
  public:
-  OpenFile(const fs::path& path, int flags, mode_t mode)
+  OpenFile(const fs::path& path, int flags, mode_t mode = 0)
       : handle_(::open(path.c_str(), flags | O_CLOEXEC, mode)) {}
   ~OpenFile() {
     if (handle_ >= 0) ::close(handle_);
@@ -38,6 +37,30 @@ class OpenFile {
   int handle_;
 };
 
+constexpr mode_t kOwnerAndGroup = 0660;
+constexpr int kMostLinks = 40;
+
+std::string Cause(int error) { return std::generic_category().message(error); }
+
+[[noreturn]] void Fail(const fs::path& file, std::string_view action, const std::string& cause) {
+  throw Fault(file.string() + " could not be " + std::string(action) + ": " + cause + ".");
+}
+
+bool IsMissing(int error) { return error == ENOENT || error == ENOTDIR; }
+
+// Opens a file that is there for reading, and tells its rights. False where it isn't there.
+bool IsThere(const OpenFile& file, const fs::path& path, std::string_view action, mode_t& rights) {
+  if (file.handle() < 0 && IsMissing(errno)) return false;
+  struct stat status {};
+  if (file.handle() < 0 || ::fstat(file.handle(), &status) != 0) Fail(path, action, Cause(errno));
+  if (!S_ISREG(status.st_mode)) Fail(path, action, "it is not a file");
+  rights = status.st_mode & 0777;
+  return true;
+}
+
+// Without waiting for the other end of what is no file.
+constexpr int kLook = O_RDONLY | O_NONBLOCK;
+
 bool WriteAll(int handle, std::string_view content) {
   while (!content.empty()) {
     const ssize_t written = ::write(handle, content.data(), content.size());
@@ -49,7 +72,7 @@ bool WriteAll(int handle, std::string_view content) {
 }
 
 fs::path MatchEntry(const fs::path& folder, std::string_view name) {
-  const fs::path exact = folder / name;
+  fs::path exact = folder / name;
   std::error_code error;
   if (fs::exists(exact, error)) return exact;
   for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
@@ -58,8 +81,31 @@ fs::path MatchEntry(const fs::path& folder, std::string_view name) {
   return exact;
 }
 
-[[noreturn]] void FailWrite(const fs::path& file, int error) {
-  throw Fault(file.string() + " could not be written: " + std::generic_category().message(error) + ".");
+// The file that a link stands for, which need not be there yet.
+fs::path FollowLinks(const fs::path& file) {
+  fs::path target = file;
+  for (int links = 0; links < kMostLinks; ++links) {
+    std::error_code error;
+    const fs::path next = fs::read_symlink(target, error);
+    if (error) return target;
+    target = target.parent_path() / next;
+  }
+  Fail(file, "written", Cause(ELOOP));
+}
+
+// The rights of the file that stands there now; nothing where there is none.
+std::optional<mode_t> RightsOf(const fs::path& file) {
+  const OpenFile old(file, kLook);
+  mode_t rights = 0;
+  if (!IsThere(old, file, "written", rights)) return std::nullopt;
+  return rights;
+}
+
+void SyncFolder(const fs::path& file) {
+  const fs::path parent = file.has_parent_path() ? file.parent_path() : fs::path(".");
+  const OpenFile folder(parent, O_RDONLY | O_DIRECTORY);
+  // The new content stands; only a loss of power could bring the old one back.
+  if (folder.handle() >= 0) ::fsync(folder.handle());
 }
 
 }  // namespace
@@ -75,36 +121,38 @@ fs::path FindFile(const fs::path& folder, std::string_view name) {
 }
 
 std::optional<std::string> ReadFile(const fs::path& file) {
-  std::error_code error;
-  if (!fs::is_regular_file(file, error)) return std::nullopt;
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream) return std::nullopt;
-  std::string content{std::istreambuf_iterator<char>(stream), {}};
-  if (stream.bad()) return std::nullopt;
-  return content;
+  constexpr std::string_view kAction = "read";
+  const OpenFile opened(file, kLook);
+  mode_t rights = 0;
+  if (!IsThere(opened, file, kAction, rights)) return std::nullopt;
+  std::string content;
+  std::array<char, 16384> part{};
+  while (true) {
+    const ssize_t size = ::read(opened.handle(), part.data(), part.size());
+    if (size == 0) return content;
+    if (size > 0) content.append(part.data(), static_cast<std::size_t>(size));
+    if (size < 0 && errno != EINTR) Fail(file, kAction, Cause(errno));
+  }
 }
 
 void ReplaceFile(const fs::path& file, std::string_view content) {
-  fs::path fresh = file;
+  const fs::path target = FollowLinks(file);
+  const std::optional<mode_t> rights = RightsOf(target);
+  fs::path fresh = target;
   fresh += ".new";
-  struct stat old {};
-  const bool exists = ::stat(file.c_str(), &old) == 0;
-  const auto fail = [&] {
+  // What a killed run left there, or a link that somebody put there: never written through.
+  ::unlink(fresh.c_str());
+  OpenFile written(fresh, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, kOwnerAndGroup);
+  if (written.handle() < 0) Fail(file, "written", Cause(errno));
+  const bool done = (!rights || ::fchmod(written.handle(), *rights) == 0) &&
+                    WriteAll(written.handle(), content) && ::fsync(written.handle()) == 0 &&
+                    written.Close() && ::rename(fresh.c_str(), target.c_str()) == 0;
+  if (!done) {
     const int error = errno;
     ::unlink(fresh.c_str());
-    FailWrite(file, error);
-  };
-  {
-    OpenFile written(fresh, O_WRONLY | O_CREAT | O_TRUNC, 0666);
-    if (written.handle() < 0) FailWrite(file, errno);
-    if (exists && ::fchmod(written.handle(), old.st_mode & 07777) != 0) fail();
-    if (!WriteAll(written.handle(), content) || ::fsync(written.handle()) != 0 || !written.Close()) fail();
+    Fail(file, "written", Cause(error));
   }
-  if (::rename(fresh.c_str(), file.c_str()) != 0) fail();
-  const fs::path parent = file.has_parent_path() ? file.parent_path() : fs::path(".");
-  const OpenFile folder(parent, O_RDONLY | O_DIRECTORY, 0);
-  // The new content stands; only a loss of power could bring the old one back.
-  if (folder.handle() >= 0) ::fsync(folder.handle());
+  SyncFolder(target);
 }
 
 std::vector<std::string> SplitLines(std::string_view text) {

@@ -26,10 +26,12 @@ inline constexpr std::string_view kSalesPersonsList = "SalesPersonslist.Dat";
 // `name` (with forward slashes) below `folder`, each step matched without regard to case.
 std::filesystem::path FindFile(const std::filesystem::path& folder, std::string_view name);
 
-// The whole file; nothing where it is missing or can't be read.
+// The whole file; nothing where it is missing. Faults, with the file and the cause, where it is there and
+// can't be read.
 std::optional<std::string> ReadFile(const std::filesystem::path& file);
-// Written beside, flushed to the disk, renamed over: the old content or the new one stands, never a part.
-// Faults with the file and the cause.
+// Written beside, flushed to the disk, renamed over: the old content or the new one stands, never a part. A
+// file that was there keeps its rights, a new one is for owner and group; where `file` is a link, the file
+// that it leads to is replaced. Faults with the file and the cause, also where what is there can't be read.
 void ReplaceFile(const std::filesystem::path& file, std::string_view content);
 
 // Lines of `text`, ended by CR LF or LF alone; a last line without an end counts, an empty one doesn't.
@@ -41,8 +43,8 @@ std::string JoinLines(const std::vector<std::string>& lines);
 // they stand, at most `most`. Missing ones are not filled in.
 std::vector<std::string> ReadSequentialValues(std::string_view text, std::size_t most);
 
-// Keyed settings files ("[section]", "key=value"). Names without regard to case; values at most 254 bytes,
-// cut at a whole character, outer blanks dropped, one pair of quotes around a value removed.
+// Keyed settings files ("[section]", "key=value"). Names without regard to case; values at most 254
+// characters, outer blanks dropped, one pair of quotes around a value removed.
 std::string ReadProfileValue(std::string_view text, std::string_view section, std::string_view key);
 // `text` with the value set; everything else, comments too, stays as it stands. Line breaks in the value
 // become blanks.

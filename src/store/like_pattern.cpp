@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "store/text_fold.h"
+#include "text/fold.h"
 
 namespace tarvane {
 

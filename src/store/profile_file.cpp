@@ -2,27 +2,15 @@
 #include <algorithm>
 
 #include "store/data_files.h"
-#include "store/text_fold.h"
+#include "text/fold.h"
+#include "text/trim.h"
+#include "text/utf8.h"
 
 namespace tarvane {
 
 namespace {
 
-constexpr std::size_t kMostBytes = 254;
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-
-std::string_view Trim(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(" \t\r\n");
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
-}
-
-std::string_view CutAtCharacter(std::string_view text) {
-  if (text.size() <= kMostBytes) return text;
-  std::size_t end = kMostBytes;
-  while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) --end;
-  return text.substr(0, end);
-}
+constexpr std::size_t kMostCharacters = 254;
 
 // Where a value stands in the text, or where it would go.
 struct Spot {
@@ -38,7 +26,7 @@ Spot FindSpot(std::string_view text, std::string_view section, std::string_view 
     const std::size_t line_end = std::min(text.find('\n', at), text.size());
     const std::size_t next = std::min(line_end + 1, text.size());
     std::string_view line = text.substr(at, line_end - at);
-    if (at == 0 && line.starts_with(kByteOrderMark)) line.remove_prefix(kByteOrderMark.size());
+    if (at == 0) line = WithoutByteOrderMark(line);
     const std::string_view trimmed = Trim(line);
     const std::size_t equals = line.find('=');
     if (trimmed.starts_with('[')) {
@@ -69,7 +57,7 @@ std::string ReadProfileValue(std::string_view text, std::string_view section, st
   if (value.size() >= 2 && value.front() == value.back() && (value.front() == '"' || value.front() == '\'')) {
     value = value.substr(1, value.size() - 2);
   }
-  return std::string(CutAtCharacter(value));
+  return std::string(FirstCharacters(value, kMostCharacters));
 }
 
 std::string WithProfileValue(std::string_view text, std::string_view section, std::string_view key,

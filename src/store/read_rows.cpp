@@ -23,7 +23,8 @@ void ReadRows(Connection& connection, const TableSchema& table, const std::strin
   Statement rows = connection.Use(sql);
   for (std::size_t i = 0; i < keys.size(); ++i) rows.Bind(static_cast<int>(i) + 1, keys[i]);
   for (std::size_t at = 0; rows.Step(); ++at) {
-    while (keys[at] != rows.Number(0)) ++at;
+    while (at < keys.size() && keys[at] != rows.Number(0)) ++at;
+    if (at == keys.size()) return;
     row(at, rows);
   }
 }

@@ -8,15 +8,15 @@
 #include "store/criteria.h"
 #include "store/criterion_scanner.h"
 #include "store/read_rows.h"
-#include "store/text_fold.h"
-#include "text_number/fault.h"
+#include "text/fault.h"
+#include "text/fold.h"
 
 namespace tarvane {
 
 namespace {
 
 constexpr std::int64_t kStepsOfWalk = 2;
-constexpr std::int64_t kMostRowsAhead = 16;
+constexpr std::int64_t kMostRowsAhead = 32;
 
 struct SourceText {
   std::string table;
@@ -43,11 +43,13 @@ SourceText ParseSource(std::string_view text) {
 
 RowCursor::RowCursor(Connection& connection, std::string_view source) : connection_(connection) {
   const SourceText text = ParseSource(source);
+  const Connection::ReadTogether together(connection);
   connection_.NoticeOtherWriters();
-  table_ = ReadSchema(connection, text.table);
-  row_sql_ = "SELECT * FROM " + table_.quoted + " WHERE rowid = ?1";
-  source_ = text.criterion ? MakeCriterionSource(CriterionQuery(connection, table_, *text.criterion))
-                           : MakeTableSource(connection, table_);
+  table_ = connection_.Schema(text.table);
+  row_sql_ = "SELECT * FROM " + table_->quoted + " WHERE rowid = ?1";
+  source_ = text.criterion ? MakeCriterionSource(connection, *table_,
+                                                 CriterionQuery(connection, *table_, *text.criterion))
+                           : MakeTableSource(connection, *table_);
   rows_version_ = connection_.rows_version();
   values_version_ = connection_.values_version();
   Go([this] { return source_->First(); }, End::kBack);
@@ -56,17 +58,18 @@ RowCursor::RowCursor(Connection& connection, std::string_view source) : connecti
 
 int RowCursor::Find(std::string_view column) const {
   const auto name = [this](int at) -> const std::string& {
-    return table_.columns[static_cast<std::size_t>(at)].name;
+    return table_->columns[static_cast<std::size_t>(at)].name;
   };
   if (by_name_.empty()) {
-    by_name_.resize(table_.columns.size());
+    by_name_.resize(table_->columns.size());
     std::iota(by_name_.begin(), by_name_.end(), 0);
     std::sort(by_name_.begin(), by_name_.end(), [&](int a, int b) { return LessName(name(a), name(b)); });
   }
   const auto found =
       std::lower_bound(by_name_.begin(), by_name_.end(), column,
                        [&](int at, std::string_view wanted) { return LessName(name(at), wanted); });
-  return found != by_name_.end() && EqualNames(name(*found), column) ? *found : -1;
+  if (found != by_name_.end() && EqualNames(name(*found), column)) return *found;
+  throw Fault("The table " + table_->name + " has no column " + std::string(column) + ".");
 }
 
 RowCursor::Events RowCursor::TakeEvents() { return std::exchange(events_, {}); }
@@ -95,8 +98,9 @@ std::int64_t RowCursor::Position() {
 }
 
 const std::vector<std::string>& RowCursor::PeekRow(std::int64_t position, const std::vector<int>& columns) {
+  for (const int column : columns) CheckColumn(column);
   NoticeChanges();
-  return pages_.Row(connection_, table_, *source_, position, columns);
+  return pages_.Row(connection_, *table_, *source_, position, columns);
 }
 
 bool RowCursor::ReadRow(std::int64_t key, std::vector<std::string>& values) {
@@ -106,8 +110,7 @@ bool RowCursor::ReadRow(std::int64_t key, std::vector<std::string>& values) {
   return true;
 }
 
-// `target` names the place to go to; a row that has gone in the meantime is dropped and the next one asked
-// for.
+// `target` names the place to go to; where its row has gone in the meantime, it is asked again, knowing that.
 void RowCursor::Go(const std::function<std::optional<Place>()>& target, End end) {
   NoticeChanges();
   StopWalk();
@@ -115,8 +118,12 @@ void RowCursor::Go(const std::function<std::optional<Place>()>& target, End end)
   {
     const Connection::ReadTogether together(connection_);
     place = target();
+    std::optional<std::int64_t> lost;
     while (place && !ReadRow(place->key, scratch_)) {
-      source_->Removed(*place);
+      if (source_->Lost(*place) || lost == place->key) {
+        connection_.FailDamaged("an index of " + table_->name + " names a row that isn't there");
+      }
+      lost = place->key;
       if (place_) place_ = source_->OfKey(place_->key);
       place = target();
     }
@@ -164,14 +171,15 @@ void RowCursor::MoveNext() {
 
 // Rows are locked and read together: one by one the locks cost more than the rows.
 void RowCursor::ReadAhead() {
-  walked_ = std::min(2 * walked_, kMostRowsAhead);
+  walked_ = std::min(4 * walked_, kMostRowsAhead);
   const Connection::ReadTogether together(connection_);
   const std::vector<Place> places = source_->Following(*place_, walked_);
   std::vector<std::int64_t> keys;
+  keys.reserve(places.size());
   for (const Place& place : places) keys.push_back(place.key);
   ahead_.resize(places.size());
   std::size_t read = 0;
-  ReadRows(connection_, table_, "t.*", keys, [&](std::size_t at, const Statement& row) {
+  ReadRows(connection_, *table_, "t.*", keys, [&](std::size_t at, const Statement& row) {
     if (at != read) return;  // behind a row that is gone: left to the next step
     ahead_[read].place = places[read];
     Assign(row, 1, ahead_[read++].values);
@@ -181,7 +189,7 @@ void RowCursor::ReadAhead() {
 }
 
 void RowCursor::Assign(const Statement& row, int first, std::vector<std::string>& values) const {
-  values.resize(table_.columns.size());
+  values.resize(table_->columns.size());
   for (std::size_t i = 0; i < values.size(); ++i) values[i].assign(row.Text(static_cast<int>(i) + first));
 }
 
@@ -200,14 +208,14 @@ void RowCursor::MoveTo(std::int64_t position) {
   Update();
   NoticeChanges();
   if (!source_->At(position))
-    throw Fault("The table " + table_.name + " has no row " + std::to_string(position + 1) + ".");
+    throw Fault("The table " + table_->name + " has no row " + std::to_string(position + 1) + ".");
   Go([this, position] { return source_->At(position); }, End::kBack);
 }
 
 void RowCursor::FindFirst(std::string_view criterion) {
   Update();
   no_match_ = true;
-  const CriterionQuery query(connection_, table_, ParseCriterion(criterion));
+  const CriterionQuery query(connection_, *table_, ParseCriterion(criterion));
   NoticeChanges();
   const std::optional<Place> found = source_->FindFirst(query);
   if (!found || !ReadRow(found->key, scratch_)) return;
@@ -235,7 +243,7 @@ void RowCursor::SetBookmark(std::string_view bookmark) {
 }
 
 void RowCursor::FailGone() const {
-  throw Fault("The row of " + table_.name + " isn't there any more (" + connection_.file().string() + ").");
+  throw Fault("The row of " + table_->name + " isn't there any more (" + connection_.file().string() + ").");
 }
 
 }  // namespace tarvane

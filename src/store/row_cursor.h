@@ -21,14 +21,14 @@ class RowCursor {
  public:
   RowCursor(Connection& connection, std::string_view source);
 
-  const TableSchema& table() const { return table_; }
+  const TableSchema& table() const { return *table_; }
   int Find(std::string_view column) const;
 
   std::int64_t Count();
   std::int64_t Position();
   bool HasRow() const { return place_.has_value() || adding_; }
-  bool IsEditing() const { return adding_ || !waiting_.empty(); }
-  bool IsAdding() const { return adding_; }
+  bool IsEditing();
+  bool IsAdding();
 
   void MoveFirst();
   void MoveLast();
@@ -62,6 +62,22 @@ class RowCursor {
  private:
   enum class End { kFront, kBack };
 
+  // A new row that may have been inserted: the key it got or would have got, and its values.
+  struct Attempt {
+    std::int64_t key = 0;
+    std::vector<std::string> values;
+  };
+
+  // What was written in a transaction that is still open, or was when last looked at: it goes back into the
+  // buffer where the transaction comes to nothing.
+  struct Written {
+    std::int64_t transaction = 0;
+    std::optional<Place> place;  // before
+    std::vector<std::string> row;
+    std::map<int, std::string> values;
+    std::optional<Attempt> added;
+  };
+
   void NoticeChanges();
   bool ReadRow(std::int64_t key, std::vector<std::string>& values);
   void Go(const std::function<std::optional<Place>()>& target, End end);
@@ -71,12 +87,18 @@ class RowCursor {
   void Leave(End end);
   void CheckColumn(int column) const;
   void CheckWaiting() const;
+  void Commit();
   void CommitNew();
   void CommitChanges();
+  void TakeForNew(std::int64_t key);
+  void NoteAttempt();
+  bool StandsAlready();
+  void Remember(Written written);
+  void TakeBackUndone();
   [[noreturn]] void FailGone() const;
 
   Connection& connection_;
-  TableSchema table_;
+  std::shared_ptr<const TableSchema> table_;
   std::string row_sql_;
   std::unique_ptr<RowSource> source_;
   mutable std::vector<int> by_name_;  // columns in the order of their names, filled on need
@@ -87,6 +109,10 @@ class RowCursor {
   std::map<int, std::string> waiting_;
   std::vector<std::string> scratch_;
   bool adding_ = false;
+
+  std::optional<Attempt> attempt_;
+
+  std::optional<Written> written_;
   bool no_match_ = false;
 
   // A walk by MoveNext is read some rows ahead: they are ahead_[ahead_at_] to the end.

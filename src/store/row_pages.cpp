@@ -15,9 +15,8 @@ constexpr std::size_t kMostPages = 6;
 std::string ColumnsSql(const TableSchema& table, const std::vector<int>& columns) {
   std::string sql;
   for (const int column : columns) {
-    const bool known = column >= 0 && column < static_cast<int>(table.columns.size());
-    sql += sql.empty() ? "" : ", ";
-    sql += known ? "t." + QuotedName(table.columns[static_cast<std::size_t>(column)].name) : "''";
+    sql += sql.empty() ? "t." : ", t.";
+    sql += QuotedName(table.columns[static_cast<std::size_t>(column)].name);
   }
   return sql.empty() ? "''" : sql;
 }

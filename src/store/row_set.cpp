@@ -5,12 +5,12 @@
 #include "store/connection.h"
 #include "store/database.h"
 #include "store/row_cursor.h"
-#include "text_number/fault.h"
+#include "text/fault.h"
 
 namespace tarvane {
 
 struct RowSet::State {
-  std::optional<RowCursor> cursor;
+  std::unique_ptr<RowCursor> cursor;
   std::vector<Listener> reposition;
   std::vector<Listener> rows_changed;
 
@@ -21,7 +21,7 @@ struct RowSet::State {
 
   // Listeners may listen further, and step through the row set themselves.
   static void Call(const std::vector<Listener>& listeners) {
-    for (std::size_t i = 0; i < listeners.size(); ++i) {
+    for (std::size_t i = 0; i < listeners.size(); ++i) {  // NOLINT(modernize-loop-convert)
       const Listener listener = listeners[i];
       listener();
     }
@@ -46,13 +46,12 @@ RowSet::RowSet(RowSet&&) noexcept = default;
 RowSet& RowSet::operator=(RowSet&&) noexcept = default;
 
 void RowSet::Open(Database& database, std::string_view source) {
-  Close();
-  state_->cursor.emplace(database.state_->connection, source);
+  state_->cursor = std::make_unique<RowCursor>(database.state_->connection, source);
   state_->Notify();
 }
 
 void RowSet::Close() noexcept { state_->cursor.reset(); }
-bool RowSet::IsOpen() const noexcept { return state_ && state_->cursor.has_value(); }
+bool RowSet::IsOpen() const noexcept { return state_ && state_->cursor != nullptr; }
 
 int RowSet::ColumnCount() const { return static_cast<int>(state_->Cursor().table().columns.size()); }
 

@@ -36,13 +36,14 @@ class RowSet {
   RowSet(RowSet&&) noexcept;
   RowSet& operator=(RowSet&&) noexcept;
 
-  // Opens `source` and moves to its first row, if there is one. Faults leave the row set closed. `database`
-  // must outlive the row set.
+  // Opens `source` and moves to its first row, if there is one. Faults leave what was open before.
+  // `database` must outlive the row set.
   void Open(Database& database, std::string_view source);
   void Close() noexcept;
   bool IsOpen() const noexcept;
 
-  // Columns in the order of the table. -1 where there is none of that name (names are compared without case).
+  // Columns in the order of the table. FindColumn faults where there is none of that name (names are compared
+  // without case), and so does every other function that takes one.
   int ColumnCount() const;
   const std::string& ColumnName(int column) const;
   int FindColumn(std::string_view name) const;
@@ -69,7 +70,7 @@ class RowSet {
   std::string Bookmark() const;
   void SetBookmark(std::string_view bookmark);
 
-  // Of the current row with what waits in the buffer; "" without a row or for column -1.
+  // Of the current row with what waits in the buffer; "" without a row.
   const std::string& Value(int column) const;
   const std::string& Value(std::string_view column) const;
   // As stored, without the buffer.
@@ -83,7 +84,9 @@ class RowSet {
   void AddNew();  // a new row with the table's defaults; current until Update, which then keeps it current
   void Edit();    // faults without a current row; nothing else: SetValue begins the edit by itself
   // Commits what waits, durably, and writes changed columns only; nothing waiting: nothing done. Faults (a
-  // text of more than 255 characters in a text column; what SQLite refuses) leave the buffer as it is.
+  // text of more than 255 characters in a text column; what SQLite refuses) leave the buffer as it is. Where
+  // a new row "may or may not have been saved", the next Update looks, and never adds it twice. Where a
+  // transaction comes to nothing, what this row set wrote last in it waits in the buffer again.
   void Update();
   void CancelUpdate();  // drops what waits; after AddNew the former row is current again
   void Delete();        // of the current row; then the next one is current, else the last, else none. While

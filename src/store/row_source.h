@@ -38,11 +38,15 @@ class RowSource {
   virtual void BeforeWrite() = 0;
   virtual Place Added(std::int64_t key) = 0;
   virtual std::optional<Place> Removed(const Place& place) = 0;
+  // The row of a place that was given isn't there: others have removed rows. True where an index still names
+  // it: then the file is damaged.
+  virtual bool Lost(const Place& place) = 0;
   // Others have added or removed rows: counts are old, and the position of `place`, where there is one.
   virtual void RowsChanged(std::optional<Place>& place) = 0;
 };
 
 std::unique_ptr<RowSource> MakeTableSource(Connection& connection, const TableSchema& table);
-std::unique_ptr<RowSource> MakeCriterionSource(CriterionQuery query);
+std::unique_ptr<RowSource> MakeCriterionSource(Connection& connection, const TableSchema& table,
+                                               CriterionQuery query);
 
 }  // namespace tarvane

@@ -75,4 +75,10 @@ std::string_view Statement::Text(int column) const {
   return {text, static_cast<std::size_t>(sqlite3_column_bytes(handle_, column))};
 }
 
+std::string_view Statement::Bytes(int column) const {
+  const auto* bytes = static_cast<const char*>(sqlite3_column_blob(handle_, column));
+  if (bytes == nullptr) return {};
+  return {bytes, static_cast<std::size_t>(sqlite3_column_bytes(handle_, column))};
+}
+
 }  // namespace tarvane

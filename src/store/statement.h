@@ -35,6 +35,7 @@ class Statement {
   std::string_view ColumnName(int column) const;
   std::string_view ColumnType(int column) const;  // as declared
   std::string_view Text(int column) const;        // "" for NULL; until the next step
+  std::string_view Bytes(int column) const;       // the same, cheaper: no byte 0 stands behind
   bool IsNull(int column) const { return sqlite3_column_type(handle_, column) == SQLITE_NULL; }
   std::int64_t Number(int column) const { return sqlite3_column_int64(handle_, column); }
 

@@ -3,9 +3,10 @@
 #include <algorithm>
 
 #include "store/connection.h"
+#include "store/file_version.h"
 #include "store/table_schema.h"
-#include "store/text_fold.h"
-#include "text_number/fault.h"
+#include "text/fault.h"
+#include "text/fold.h"
 
 namespace tarvane {
 
@@ -32,23 +33,6 @@ std::string ColumnSql(const ColumnDefinition& column) {
   return {};
 }
 
-std::string TableSql(const TableDefinition& table) {
-  std::string columns;
-  for (const ColumnDefinition& column : table.columns) {
-    columns += (columns.empty() ? "" : ", ") + ColumnSql(column);
-  }
-  return "CREATE TABLE " + QuotedName(table.name) + " (" + columns + ")";
-}
-
-// The index over the key alone looks needless, since the table is in that order; but its rows are narrow, so
-// that counting and finding positions don't read through the wide rows of the table.
-std::string IndexSql(const TableDefinition& table, const ColumnDefinition& column) {
-  const std::string order =
-      column.type == ColumnType::kKey ? "" : " COLLATE " + std::string(kFoldedCollation);
-  return "CREATE INDEX " + QuotedName(IndexName(table.name, column.name)) + " ON " + QuotedName(table.name) +
-         " (" + QuotedName(column.name) + order + ")";
-}
-
 }  // namespace
 
 const TableDefinition& FindTable(std::string_view name) {
@@ -59,13 +43,36 @@ const TableDefinition& FindTable(std::string_view name) {
   return *found;
 }
 
+std::string TableSql(const TableDefinition& table) {
+  std::string columns;
+  for (const ColumnDefinition& column : table.columns) {
+    columns += (columns.empty() ? "" : ", ") + ColumnSql(column);
+  }
+  return "CREATE TABLE " + QuotedName(table.name) + " (" + columns + ")";
+}
+
+std::string AddColumnSql(const TableDefinition& table, const ColumnDefinition& column) {
+  return "ALTER TABLE " + QuotedName(table.name) + " ADD COLUMN " + ColumnSql(column);
+}
+
+std::vector<IndexDefinition> IndexesOf(const TableDefinition& table) {
+  std::vector<IndexDefinition> indexes;
+  for (const ColumnDefinition& column : table.columns) {
+    if (!column.searched) continue;
+    const bool key = column.type == ColumnType::kKey;
+    indexes.push_back({IndexName(table.name, column.name), IndexSql(table.name, column.name, key)});
+    if (!key)
+      indexes.push_back({BeyondIndexName(table.name, column.name), BeyondIndexSql(table.name, column.name)});
+  }
+  return indexes;
+}
+
 bool CreateTable(Database& database, const TableDefinition& table) {
   if (database.HasTable(table.name)) return false;
   Database::Transaction transaction(database);
+  if (!database.HasTable("sqlite_sequence")) database.Execute(VersionMarksSql());
   database.Execute(TableSql(table));
-  for (const ColumnDefinition& column : table.columns) {
-    if (column.searched) database.Execute(IndexSql(table, column));
-  }
+  for (const IndexDefinition& index : IndexesOf(table)) database.Execute(index.sql);
   transaction.Commit();
   return true;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,7 +19,7 @@ enum class ColumnType {
 struct ColumnDefinition {
   std::string_view name;
   ColumnType type = ColumnType::kText;
-  std::string_view default_value = "";
+  std::string_view default_value = {};
   bool searched = false;  // gets an index that prefix patterns run on
 };
 
@@ -28,12 +29,38 @@ struct TableDefinition {
   std::vector<ColumnDefinition> columns;  // in the order of their positions
 };
 
+// What each database file bears, so that it is known as one of this program, and of which version.
+inline constexpr std::int64_t kApplicationId = 0x54617276;
+// Raised by one with every change of the tables that lands.
+inline constexpr std::int64_t kSchemaVersion = 1;
+
+// A statement that files older than `version` need before the tables, columns and indexes that they lack are
+// added as they are defined. It may count on what the steps before it did, and on nothing else.
+struct UpgradeStep {
+  std::int64_t version = 0;
+  std::string_view table;  // the files that hold it are meant
+  std::string_view sql;
+};
+
+// In the order of their versions.
+const std::vector<UpgradeStep>& UpgradeSteps();
+
 // Every table of the program, in the order tarvane-setup creates them.
 const std::vector<TableDefinition>& TableDefinitions();
 // Faults for a table that isn't defined.
 const TableDefinition& FindTable(std::string_view name);
 
-// Creates the table and its indexes where the table isn't there; true where it was created.
+// Creates the table and its indexes where the table isn't there; true where it was created. A file without
+// tables gets the marks of this version.
 bool CreateTable(Database& database, const TableDefinition& table);
+
+// The statements that make a table, a column of one that is there, and all its indexes.
+std::string TableSql(const TableDefinition& table);
+std::string AddColumnSql(const TableDefinition& table, const ColumnDefinition& column);
+struct IndexDefinition {
+  std::string name;
+  std::string sql;
+};
+std::vector<IndexDefinition> IndexesOf(const TableDefinition& table);
 
 }  // namespace tarvane

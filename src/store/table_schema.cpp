@@ -4,12 +4,15 @@
 #include <charconv>
 
 #include "store/connection.h"
-#include "store/text_fold.h"
-#include "text_number/fault.h"
+#include "store/prefix_ranges.h"
+#include "text/fault.h"
+#include "text/fold.h"
 
 namespace tarvane {
 
 namespace {
+
+constexpr std::string_view kBeyond = "_beyond";
 
 bool IsKey(const Connection& connection, const TableSchema& table, const std::string& column) {
   int primary_key = 0;
@@ -39,6 +42,22 @@ std::string LiteralText(std::string_view literal) {
   return text;
 }
 
+// An index that somebody made otherwise under the same name isn't one to search on.
+void TakeIndex(TableSchema& schema, const std::string& name, const std::string& sql) {
+  std::string_view column_name = name;
+  if (!name.starts_with(schema.name + "_")) return;
+  column_name.remove_prefix(schema.name.size() + 1);
+  const bool beyond = column_name.ends_with(kBeyond);
+  if (beyond) column_name.remove_suffix(kBeyond.size());
+  const int at = schema.Find(column_name);
+  if (at < 0) return;
+  TableSchema::Column& column = schema.columns[static_cast<std::size_t>(at)];
+  if (sql !=
+      (beyond ? BeyondIndexSql(schema.name, column.name) : IndexSql(schema.name, column.name, column.key)))
+    return;
+  (column.key ? schema.key_index : beyond ? column.beyond_index : column.index) = QuotedName(name);
+}
+
 }  // namespace
 
 int TableSchema::Find(std::string_view column) const {
@@ -55,13 +74,18 @@ int TableSchema::Require(std::string_view column) const {
 
 TableSchema ReadSchema(Connection& connection, std::string_view table) {
   TableSchema schema;
+  std::vector<std::pair<std::string, std::string>> indexes;
   {
     Statement find =
-        connection.Use("SELECT name FROM sqlite_schema WHERE type = 'table' AND name = ?1 COLLATE NOCASE");
-    if (!find.Bind(1, table).Step()) {
-      throw Fault(connection.file().string() + " has no table \"" + std::string(table) + "\".");
+        connection.Use("SELECT type, name, sql FROM sqlite_schema WHERE tbl_name = ?1 COLLATE NOCASE");
+    find.Bind(1, table);
+    while (find.Step()) {
+      if (find.Text(0) == "table") schema.name = find.Text(1);
+      if (find.Text(0) == "index") indexes.emplace_back(find.Text(1), find.Text(2));
     }
-    schema.name = find.Text(0);
+  }
+  if (schema.name.empty()) {
+    throw Fault(connection.file().string() + " has no table \"" + std::string(table) + "\".");
   }
   schema.quoted = QuotedName(schema.name);
   const Statement row = connection.Use("SELECT * FROM " + schema.quoted + " WHERE rowid = ?1");
@@ -73,6 +97,10 @@ TableSchema ReadSchema(Connection& connection, std::string_view table) {
     column.most_characters = LimitOf(type);
     column.yes_no = EqualNames(type, "BOOLEAN");
     column.key = EqualNames(type, "INTEGER") && IsKey(connection, schema, column.name);
+  }
+  for (const auto& [name, sql] : indexes) TakeIndex(schema, name, sql);
+  for (TableSchema::Column& column : schema.columns) {
+    if (column.beyond_index.empty()) column.index.clear();
   }
   return schema;
 }
@@ -92,11 +120,21 @@ std::string IndexName(std::string_view table, std::string_view column) {
   return std::string(table) + "_" + std::string(column);
 }
 
-std::string FindIndex(Connection& connection, const TableSchema& table, std::string_view column) {
-  const std::string name = IndexName(table.name, column);
-  Statement find =
-      connection.Use("SELECT 1 FROM sqlite_schema WHERE type = 'index' AND tbl_name = ?1 AND name = ?2");
-  return find.Bind(1, table.name).Bind(2, name).Step() ? QuotedName(name) : "";
+// The index over the key alone looks needless, since the table is in that order; but its rows are narrow, so
+// that counting and finding positions don't read through the wide rows of the table.
+std::string IndexSql(std::string_view table, std::string_view column, bool key) {
+  return "CREATE INDEX " + QuotedName(IndexName(table, column)) + " ON " + QuotedName(table) + " (" +
+         QuotedName(column) + (key ? ")" : " COLLATE NOCASE)");
+}
+
+std::string BeyondIndexName(std::string_view table, std::string_view column) {
+  return IndexName(table, column).append(kBeyond);
+}
+
+std::string BeyondIndexSql(std::string_view table, std::string_view column) {
+  const std::string quoted = QuotedName(column);
+  return "CREATE INDEX " + QuotedName(BeyondIndexName(table, column)) + " ON " + QuotedName(table) + " (" +
+         IsStraySql(quoted) + ", " + quoted + " COLLATE NOCASE) WHERE " + IsBeyondSql(quoted);
 }
 
 }  // namespace tarvane

@@ -18,11 +18,16 @@ struct TableSchema {
     std::int64_t most_characters = 0;  // of a text of limited length, 0 for any other
     bool yes_no = false;
     bool key = false;
+    // Quoted names of the indexes that searches run on; both "" where the file hasn't them as IndexSql and
+    // BeyondIndexSql make them.
+    std::string index;
+    std::string beyond_index;
   };
 
   std::string name;
   std::string quoted;
   std::vector<Column> columns;
+  std::string key_index;  // quoted name of the index over the key, "" where there is none
 
   // -1 where there is none; names without regard to case.
   int Find(std::string_view column) const;
@@ -36,9 +41,11 @@ TableSchema ReadSchema(Connection& connection, std::string_view table);
 // The values of a new row, in the order of the columns. Only plain literals are read.
 std::vector<std::string> ReadDefaults(Connection& connection, const TableSchema& table);
 
-// Quoted name of the index over `column` alone, "" where there is none. Indexes go by their names: table,
-// underline, column.
-std::string FindIndex(Connection& connection, const TableSchema& table, std::string_view column);
+// The index over a column: its name (table, underline, column) and the statement that makes it. With each but
+// that of the key goes one over the texts beyond ASCII alone (prefix_ranges.h), strays behind the others.
 std::string IndexName(std::string_view table, std::string_view column);
+std::string IndexSql(std::string_view table, std::string_view column, bool key);
+std::string BeyondIndexName(std::string_view table, std::string_view column);
+std::string BeyondIndexSql(std::string_view table, std::string_view column);
 
 }  // namespace tarvane

@@ -13,11 +13,8 @@ namespace {
 class TableSource : public RowSource {
  public:
   TableSource(Connection& connection, const TableSchema& table)
-      : connection_(connection), table_(table.quoted) {
-    const auto key =
-        std::find_if(table.columns.begin(), table.columns.end(), [](const auto& each) { return each.key; });
-    const std::string index = key == table.columns.end() ? "" : FindIndex(connection, table, key->name);
-    narrow_ = index.empty() ? table_ : table_ + " INDEXED BY " + index;
+      : connection_(connection), table_(table.quoted), rows_(table.quoted + " NOT INDEXED") {
+    narrow_ = table.key_index.empty() ? table_ : table_ + " INDEXED BY " + table.key_index;
   }
 
   std::int64_t Count() override {
@@ -33,24 +30,24 @@ class TableSource : public RowSource {
   }
 
   std::optional<Place> First() override {
-    return PlaceOf(Ask("SELECT rowid FROM " + table_ + " ORDER BY rowid LIMIT 1", {}), 0);
+    return PlaceOf(Ask("SELECT rowid FROM " + rows_ + " ORDER BY rowid LIMIT 1", {}), 0);
   }
 
   std::optional<Place> Last() override {
-    return PlaceOf(Ask("SELECT rowid FROM " + table_ + " ORDER BY rowid DESC LIMIT 1", {}),
+    return PlaceOf(Ask("SELECT rowid FROM " + rows_ + " ORDER BY rowid DESC LIMIT 1", {}),
                    count_ ? *count_ - 1 : -1);
   }
 
   std::optional<Place> Next(const Place& place) override {
     return PlaceOf(
-        Ask("SELECT rowid FROM " + table_ + " WHERE rowid > ?1 ORDER BY rowid LIMIT 1", {place.key}),
+        Ask("SELECT rowid FROM " + rows_ + " WHERE rowid > ?1 ORDER BY rowid LIMIT 1", {place.key}),
         place.position >= 0 ? place.position + 1 : -1);
   }
 
   std::vector<Place> Following(const Place& place, std::int64_t most) override {
     std::vector<Place> places;
     Statement next =
-        connection_.Use("SELECT rowid FROM " + table_ + " WHERE rowid > ?1 ORDER BY rowid LIMIT ?2");
+        connection_.Use("SELECT rowid FROM " + rows_ + " WHERE rowid > ?1 ORDER BY rowid LIMIT ?2");
     next.Bind(1, place.key).Bind(2, most);
     for (std::int64_t position = place.position; next.Step();) {
       places.push_back({next.Number(0), position >= 0 ? ++position : -1});
@@ -60,7 +57,7 @@ class TableSource : public RowSource {
 
   std::optional<Place> Previous(const Place& place) override {
     return PlaceOf(
-        Ask("SELECT rowid FROM " + table_ + " WHERE rowid < ?1 ORDER BY rowid DESC LIMIT 1", {place.key}),
+        Ask("SELECT rowid FROM " + rows_ + " WHERE rowid < ?1 ORDER BY rowid DESC LIMIT 1", {place.key}),
         place.position > 0 ? place.position - 1 : -1);
   }
 
@@ -116,6 +113,12 @@ class TableSource : public RowSource {
     return next;
   }
 
+  bool Lost(const Place& place) override {
+    std::optional<Place> none;
+    RowsChanged(none);
+    return Ask("SELECT 1 FROM " + narrow_ + " WHERE rowid = ?1", {place.key}).has_value();
+  }
+
   void RowsChanged(std::optional<Place>& place) override {
     count_.reset();
     extent_.reset();
@@ -162,6 +165,7 @@ class TableSource : public RowSource {
 
   Connection& connection_;
   std::string table_;
+  std::string rows_;  // read without an index, which could name rows that aren't there
   std::string narrow_;
   std::optional<std::int64_t> count_;
   std::optional<Extent> extent_;

@@ -140,7 +140,22 @@ std::vector<ColumnDefinition> LetterColumns() {
   };
 }
 
+// Version 0 had indexes in an order of the program's own.
+constexpr std::string_view kDropOwnOrder =
+    "DROP INDEX IF EXISTS TblBrindel_Name;"
+    "DROP INDEX IF EXISTS TblBrindel_Telephone;"
+    "DROP INDEX IF EXISTS TblBrindel_PostCode;"
+    "DROP INDEX IF EXISTS TblBrindel_Ext2;"
+    "DROP INDEX IF EXISTS TblBrindel_Ext6;";
+
 }  // namespace
+
+const std::vector<UpgradeStep>& UpgradeSteps() {
+  static const std::vector<UpgradeStep> steps = {
+      {1, "TblBrindel", kDropOwnOrder},
+  };
+  return steps;
+}
 
 const std::vector<TableDefinition>& TableDefinitions() {
   static const std::vector<TableDefinition> tables = {

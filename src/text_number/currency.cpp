@@ -2,8 +2,8 @@
 
 #include <charconv>
 
+#include "text/fault.h"
 #include "text_number/decimal.h"
-#include "text_number/fault.h"
 
 namespace tarvane {
 namespace {

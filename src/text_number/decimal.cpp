@@ -4,6 +4,8 @@
 #include <charconv>
 #include <limits>
 
+#include "text/utf8.h"
+
 namespace tarvane {
 namespace {
 
@@ -161,9 +163,7 @@ std::string PlainText(const Decimal& number) {
 std::string Quoted(std::string_view text) {
   constexpr std::size_t kLongest = 80;
   if (text.size() <= kLongest) return '"' + std::string(text) + '"';
-  std::size_t length = kLongest;
-  while (length > 0 && (static_cast<unsigned char>(text[length]) & 0xC0) == 0x80) --length;
-  return '"' + std::string(text.substr(0, length)) + "...\"";
+  return '"' + std::string(FirstBytes(text, kLongest)) + "...\"";
 }
 
 std::string NotANumber(std::string_view text) { return Quoted(text) + " is not a number."; }

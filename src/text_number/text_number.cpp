@@ -5,8 +5,8 @@
 #include <cmath>
 #include <limits>
 
+#include "text/fault.h"
 #include "text_number/decimal.h"
-#include "text_number/fault.h"
 
 namespace tarvane {
 namespace {

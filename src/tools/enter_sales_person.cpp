@@ -1,11 +1,11 @@
 #include "tools/enter_sales_person.h"
 
-#include "job/option_lists.h"
+#include "shop/option_lists.h"
 
-namespace tarvane {
+namespace tarvane::tools {
 
-FrmEnterSalesPerson::FrmEnterSalesPerson(Host& host, JobScreen& job)
-    : Screen(host, "FrmEnterSalesPerson"), job_(job) {
+FrmEnterSalesPerson::FrmEnterSalesPerson(Host& host, Shop& shop, job::JobScreen& job)
+    : Screen(host, std::string(kName)), shop_(shop), job_(job) {
   SetTitle("Enter Sales Person");
   Command1.OnClicked([this] {
     job_.SalesPerson.SetText(CboSalesPerson.text());
@@ -13,8 +13,9 @@ FrmEnterSalesPerson::FrmEnterSalesPerson(Host& host, JobScreen& job)
   });
 }
 
+// The new job goes on without names where they can't be read.
 void FrmEnterSalesPerson::Load() {
-  CboSalesPerson.SetEntries(LoadListFile(FindFile(job_.folder(), data_file::kSalesPersonsList)));
+  Guard([this] { CboSalesPerson.SetEntries(shop_.ReadList(data_file::kSalesPersonsList)); });
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::tools

@@ -2,14 +2,16 @@
 
 #include "job/job_screen.h"
 
-namespace tarvane {
+namespace tarvane::tools {
 
 // Asks for the sales person of a new job and puts the answer into the main screen's list field. Closed by its
 // window it leaves that as it is.
 class FrmEnterSalesPerson : public Screen {
  public:
+  static constexpr std::string_view kName = "FrmEnterSalesPerson";
+
   // `job` must outlive the screen.
-  FrmEnterSalesPerson(Host& host, JobScreen& job);
+  FrmEnterSalesPerson(Host& host, Shop& shop, job::JobScreen& job);
 
   DropDownList CboSalesPerson{this, "CboSalesPerson"};
   Button Command1{this, "Command1", "&OK"};
@@ -18,7 +20,8 @@ class FrmEnterSalesPerson : public Screen {
   void Load() override;
 
  private:
-  JobScreen& job_;
+  Shop& shop_;
+  job::JobScreen& job_;
 };
 
-}  // namespace tarvane
+}  // namespace tarvane::tools

@@ -1,8 +1,8 @@
 #include "tools/options.h"
 
-#include "store/data_files.h"
+#include "screen/kinds.h"
 
-namespace tarvane {
+namespace tarvane::tools {
 
 namespace {
 
@@ -13,7 +13,8 @@ constexpr std::size_t kCompanyId = 10;
 
 }  // namespace
 
-frmOptions::frmOptions(Host& host, JobScreen& job) : Screen(host, "frmOptions"), job_(job) {
+frmOptions::frmOptions(Host& host, Shop& shop, job::JobScreen& job)
+    : Screen(host, std::string(kName)), shop_(shop), job_(job) {
   SetTitle("Tarvane Preferences");
   BindFields();
   SetRules();
@@ -47,49 +48,32 @@ void frmOptions::SetRules() {
 
   cmdApply.SetEnabled(false);
   for (Control* control : controls()) {
-    if (auto* field = dynamic_cast<TextField*>(control)) {
+    if (auto* field = As<TextField>(*control)) {
       field->OnTyped([this] { cmdApply.SetEnabled(true); });
     }
   }
-  CmdFirst.OnClicked([this] { Data1.rows().MoveFirst(); });
-  CmdLast.OnClicked([this] { Data1.rows().MoveLast(); });
-  CmdPrevious.OnClicked([this] {
-    if (Data1.rows().AbsolutePosition() > 0) Data1.rows().MovePrevious();
-  });
-  CmdNext.OnClicked([this] {
-    // A new row becomes the last one.
-    if (Data1.rows().IsAdding()) Data1.rows().Update();
-    if (Data1.rows().AbsolutePosition() + 1 < Data1.rows().RecordCount()) Data1.rows().MoveNext();
-  });
   CmdNew.OnClicked([this] {
     Data1.rows().AddNew();
     SetFocus(TxtCompany[0]);
   });
+  Data1.OnReposition([this] { TellFirstSettings(); });
   cmdOK.OnClicked([this] { Save(); });
   cmdCancel.OnClicked([this] { Close(); });
-  RecordBar.AddAlias("Data1");
-  Data1.OnReposition([this] { ShowPosition(); });
 }
 
-void frmOptions::Load() {
-  database_.emplace(FindFile(job_.folder(), data_file::kJobs));
-  Data1.Open(*database_, kAdminTable);
-}
+void frmOptions::Load() { Data1.Open(shop_.database(), kAdminTable); }
 
-void frmOptions::ShowPosition() {
-  if (!Data1.HasRow() || Data1.rows().IsAdding()) {
-    RecordBar.SetCaption("");
-    return;
-  }
-  RecordBar.SetCaption("Record: " + std::to_string(Data1.rows().AbsolutePosition() + 1) + " of " +
-                       std::to_string(Data1.rows().RecordCount()));
+// The main screen opened the settings when there were none yet.
+void frmOptions::TellFirstSettings() {
+  if (!job_.Data2.HasRow()) job_.Data2.Open(shop_.database(), kAdminTable);
 }
 
 void frmOptions::Save() {
   // The row that was committed stays the current one.
   Data1.rows().Update();
+  TellFirstSettings();
   job_.cboVAT.SetText(TxtVat.text());
   Close();
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::tools

@@ -1,20 +1,20 @@
 #pragma once
 
 #include <array>
-#include <optional>
 
 #include "job/job_screen.h"
 
-namespace tarvane {
+namespace tarvane::tools {
 
-// The settings and company details: the rows of Admin. It has its own connection and commits on a move to
-// another row and on Save; Close loses what waits.
+// The settings and company details: the rows of Admin. A row is committed when it is left and by Save; Close
+// loses what waits.
 class frmOptions : public Screen {
  public:
+  static constexpr std::string_view kName = "frmOptions";
   static constexpr std::size_t kCompanyFields = 11;
 
   // `job` must outlive the screen.
-  frmOptions(Host& host, JobScreen& job);
+  frmOptions(Host& host, Shop& shop, job::JobScreen& job);
 
   TextField TxtLastOrderNo{this, "TxtLastOrderNo"};
   TextField Text3{this, "Text3"};                          // discount percentage of new jobs, and...
@@ -29,17 +29,13 @@ class frmOptions : public Screen {
       MakeFamily<kCompanyFields>([this](int i) { return TextField(this, "TxtCompany", "", i); });
   TextField TxtNotes{this, "TxtNotes", "", -1, TextField::Kind::kMemo};
 
-  Label RecordBar{this, "RecordBar"};
-  Button CmdFirst{this, "CmdFirst", "|<"};
-  Button CmdPrevious{this, "CmdPrevious", "<"};
-  Button CmdNext{this, "CmdNext", ">"};
-  Button CmdLast{this, "CmdLast", ">|"};
   Button CmdNew{this, "CmdNew", "&New Company"};
   Button cmdOK{this, "cmdOK", "&Save"};
   Button cmdCancel{this, "cmdCancel", "&Close"};
   Button cmdApply{this, "cmdApply", "Apply"};
 
   DataSource Data1;
+  RecordBar Records{this, Data1};
 
  protected:
   void Load() override;
@@ -48,11 +44,11 @@ class frmOptions : public Screen {
   void BindFields();
   void Bind(TextField& field, std::string_view column);
   void SetRules();
+  void TellFirstSettings();
   void Save();
-  void ShowPosition();
 
-  JobScreen& job_;
-  std::optional<Database> database_;
+  Shop& shop_;
+  job::JobScreen& job_;
 };
 
-}  // namespace tarvane
+}  // namespace tarvane::tools

@@ -11,7 +11,7 @@
 #include "support/shop_folder.h"
 #include "tools/enter_sales_person.h"
 
-namespace tarvane {
+namespace tarvane::app {
 namespace {
 
 using ::testing::ElementsAre;
@@ -32,7 +32,8 @@ class MainScreenTest : public testing::Test {
       steps(main);
       main.UserClose();
     });
-    MainScreen main(host_, folder_.path());
+    Shop shop(folder_.path());
+    MainScreen main(host_, shop);
     EXPECT_THROW(main.RunAsMain(), ProcessEnd);
   }
   void AddJobs(const std::vector<RowValues>& jobs) {
@@ -55,14 +56,14 @@ TEST_F(MainScreenTest, StartsInFinderMode) {
   Run([](MainScreen& main) {
     EXPECT_EQ(main.title(), "Tarvane Max - The shop curtain estimating software - Version 1.0 (Build #0)");
     EXPECT_EQ(main.Name.text(), "Ann");
-    EXPECT_EQ(main.RecordBar.caption(), "Record: 1 of 2");
+    EXPECT_EQ(main.Records.Caption.caption(), "Record: 1 of 2");
     EXPECT_EQ(main.cboVAT.text(), "0") << "the first activation comes after the settings file";
     EXPECT_THAT(main.SalesPerson.entries(), ElementsAre("Jo", "Kim"));
     EXPECT_THAT(main.CboSalesPersonSearch.entries(), ElementsAre("Jo", "Kim"));
     EXPECT_EQ(main.CheckList[0].caption(), "Measured");
     EXPECT_EQ(main.CheckList[1].caption(), "Ordered");
     EXPECT_EQ(main.CheckList[2].caption(), "");
-    EXPECT_EQ(main.CboFabSearch.entries().size(), 5u);
+    EXPECT_EQ(main.JobFinder.CboFabSearch.entries().size(), 5u);
     EXPECT_FALSE(main.in_job_mode());
     EXPECT_FALSE(main.tbToolBar.visible());
     EXPECT_FALSE(main.CommandButton("Save Records").shown());
@@ -97,11 +98,11 @@ TEST_F(MainScreenTest, OpensAndClosesARecord) {
     Press(main, "CmdSize");
     EXPECT_FALSE(main.in_job_mode());
     EXPECT_EQ(main.txtLastRecord.text(), "2");
-    EXPECT_EQ(main.RecordBar.caption(), "Record: 1 of 2");
+    EXPECT_EQ(main.Records.Caption.caption(), "Record: 1 of 2");
     EXPECT_EQ(main.Name.text(), "Ann");
     EXPECT_EQ(main.Label8[0].caption(), "Database refreshed.");
-    EXPECT_EQ(main.CboFabSearch.text(), "RefNo");
-    EXPECT_EQ(main.focus(), &main.FabSText);
+    EXPECT_EQ(main.JobFinder.CboFabSearch.text(), "RefNo");
+    EXPECT_EQ(main.focus(), &main.JobFinder.FabSText);
     EXPECT_FALSE(main.CommandButton("CmdSize").visible());
     EXPECT_EQ(folder_.Stored(kJobTable, 1, "Town"), "Ludlow") << "closing a record loses nothing";
   });
@@ -111,7 +112,7 @@ TEST_F(MainScreenTest, NewRecordsAreNumberedOnwards) {
   AddJobs({{{"Name", "Ann"}}});
   folder_.Write("SalesPersonslist.Dat", "Jo\r\n");
   Run([this](MainScreen& main) {
-    host_.OnShow<FrmEnterSalesPerson>([](FrmEnterSalesPerson& enter) {
+    host_.OnShow<tools::FrmEnterSalesPerson>([](tools::FrmEnterSalesPerson& enter) {
       enter.CboSalesPerson.UserPick(0);
       enter.Command1.UserPress();
     });
@@ -124,7 +125,7 @@ TEST_F(MainScreenTest, NewRecordsAreNumberedOnwards) {
     EXPECT_EQ(main.SalesPerson.text(), "Jo");
     EXPECT_EQ(main.GTotal.text(), "0.00");
     EXPECT_EQ(main.RefNo.text(), "2");
-    EXPECT_EQ(main.RecordBar.caption(), "Record: 2 of 2");
+    EXPECT_EQ(main.Records.Caption.caption(), "Record: 2 of 2");
     EXPECT_EQ(main.focus(), &main.Name);
     EXPECT_FALSE(main.Data1.rows().IsEditing());
 
@@ -141,9 +142,9 @@ TEST_F(MainScreenTest, NewRecordsAreNumberedOnwards) {
 
 TEST_F(MainScreenTest, NewRecordInAnEmptyShop) {
   Run([this](MainScreen& main) {
-    EXPECT_EQ(main.RecordBar.caption(), "");
+    EXPECT_EQ(main.Records.Caption.caption(), "");
     Press(main, "munNew2");
-    EXPECT_EQ(main.RecordBar.caption(), "Record: 1 of 1");
+    EXPECT_EQ(main.Records.Caption.caption(), "Record: 1 of 1");
     EXPECT_EQ(main.OrderReference.text(), "1");
     EXPECT_EQ(main.DiscountPercent.text(), "0");
     EXPECT_EQ(main.DepositPercent.text(), "20");
@@ -155,15 +156,15 @@ TEST_F(MainScreenTest, NewRecordInAnEmptyShop) {
 TEST_F(MainScreenTest, ANewRecordThatCantBeSavedWaits) {
   AddJobs({});
   Run([this](MainScreen& main) {
-    host_.OnShow<FrmEnterSalesPerson>(
-        [&main](FrmEnterSalesPerson&) { main.Town.SetText(std::string(256, 'x')); });
+    host_.OnShow<tools::FrmEnterSalesPerson>(
+        [&main](tools::FrmEnterSalesPerson&) { main.Town.SetText(std::string(256, 'x')); });
     Press(main, "munNew2");
     EXPECT_EQ(host_.messages.size(), 1u);
     EXPECT_EQ(folder_.Count(kJobTable), 0);
     main.Town.UserType("Ludlow");
     Press(main, "Save Records");
     EXPECT_EQ(main.RefNo.text(), "1");
-    EXPECT_EQ(main.RecordBar.caption(), "Record: 1 of 1");
+    EXPECT_EQ(main.Records.Caption.caption(), "Record: 1 of 1");
   });
   EXPECT_EQ(folder_.Stored(kJobTable, 0, "Town"), "Ludlow");
   EXPECT_EQ(folder_.Stored(kJobTable, 0, "Ext2"), "101");
@@ -188,7 +189,7 @@ TEST_F(MainScreenTest, StepsThroughTheJobs) {
     Press(main, "MuuNextRec");
     Press(main, "MuuNextRec");
     EXPECT_EQ(main.Name.text(), "Bea");
-    EXPECT_EQ(main.RecordBar.caption(), "Record: 2 of 2");
+    EXPECT_EQ(main.Records.Caption.caption(), "Record: 2 of 2");
     EXPECT_EQ(host_.beeps, 1) << "the last row stops in silence";
     Press(main, "MnuPrevRec");
     EXPECT_EQ(main.Mobile.text(), "07700 900123");
@@ -211,20 +212,126 @@ TEST_F(MainScreenTest, ARestartFindsWhatWasSavedAndNothingElse) {
   Run([](MainScreen& main) {
     EXPECT_EQ(main.Name.text(), "Ann");
     EXPECT_EQ(main.GTotal.text(), "12.50");
-    EXPECT_EQ(main.RoomItemGrid[0].Text(1, kDialogboxColumn), "CurtainWizard");
+    EXPECT_EQ(main.RoomItemGrid[0].Text(1, job::kDialogboxColumn), "CurtainWizard");
     EXPECT_TRUE(main.Completed.on());
     EXPECT_EQ(main.JobNotes.text(), "two\r\nlines");
     Press(main, "munexit");
   });
 }
 
-TEST_F(MainScreenTest, TheStartWritesNothing) {
+TEST_F(MainScreenTest, StartAndLooksWriteNothing) {
   // Stored totals that the figures don't bear out, and a tax from the settings file: neither is touched.
   AddJobs({{{"4text", "99.00"}, {"1T(0)", ItemLine("1", "")}}, {{"4text", "98.00"}}});
   folder_.Write("Dat/Tarvane.ini", "0,0,0,0,0,0,0,0,0,0,0,20");
   const std::string before = folder_.Read("Dat/Tarvane.mdb");
-  Run([](MainScreen& main) { EXPECT_EQ(main.Total.text(), "1.00"); });
+  Run([](MainScreen& main) {
+    EXPECT_EQ(main.Total.text(), "1.00");
+    main.QuickFinderGrid.UserSelectRow(2);
+    EXPECT_EQ(main.Total.text(), "0.00");
+    main.Records.CmdFirst.UserPress();
+    main.JobFinder.CmdReset.UserPress();
+    Press(main, "MunAbout");
+  });
   EXPECT_TRUE(folder_.Read("Dat/Tarvane.mdb") == before);
+  // Only a job that was opened keeps what was worked out for it.
+  Run([](MainScreen& main) {
+    main.QuickFinderGrid.UserOpenRow(1);
+    Press(main, "CmdSize");
+    main.QuickFinderGrid.UserSelectRow(2);
+  });
+  EXPECT_EQ(folder_.Stored(kJobTable, 0, "4text"), "1.00");
+  EXPECT_EQ(folder_.Stored(kJobTable, 1, "4text"), "98.00");
+  // A new job passes over the last one.
+  Run([](MainScreen& main) {
+    Press(main, "munNew2");
+    Press(main, "CmdSize");
+  });
+  EXPECT_EQ(folder_.Stored(kJobTable, 1, "4text"), "98.00");
+}
+
+TEST_F(MainScreenTest, TaxIsOfOneJob) {
+  AddJobs({{{"1T(0)", ItemLine("100", "")}}, {{"1T(0)", ItemLine("50", "")}}});
+  Run([](MainScreen& main) {
+    main.QuickFinderGrid.UserOpenRow(2);
+    main.cboVAT.UserType("20");
+    main.cboVAT.UserEnterKey();
+    EXPECT_EQ(main.Total.text(), "60.00");
+    Press(main, "CmdSize");
+    EXPECT_EQ(main.cboVAT.text(), "0");
+    EXPECT_EQ(main.Total.text(), "100.00") << "the first job, current again";
+  });
+  EXPECT_EQ(folder_.Stored(kJobTable, 0, "4text"), "0.00");
+  EXPECT_EQ(folder_.Stored(kJobTable, 1, "4text"), "60.00");
+}
+
+TEST_F(MainScreenTest, SearchesForJobs) {
+  AddJobs({{{"Name", "Smith"}}, {{"Name", "smythe"}, {"Ext2", "77"}}, {{"Name", "Jones [2]"}}});
+  Run([](MainScreen& main) {
+    Finder& finder = main.JobFinder;
+    EXPECT_EQ(finder.CboFabSearch.text(), "<Category to Search>");
+    EXPECT_FALSE(finder.CmdSearch.enabled());
+    const auto search = [&](std::size_t category, std::string_view text) {
+      finder.CmdReset.UserPress();
+      EXPECT_EQ(finder.CboFabSearch.text(), "RefNo");
+      finder.CboFabSearch.UserPick(category);
+      finder.FabSText.UserType(text);
+      finder.FabSText.UserEnterKey();
+      return main.QuickFinderGrid.RowCount();
+    };
+    EXPECT_EQ(search(2, "sm"), 2);
+    EXPECT_EQ(main.Label8[0].caption(), "2 matche(s) found. Refresh Database to search again.");
+    EXPECT_FALSE(finder.CboFabSearch.shown());
+    EXPECT_FALSE(finder.CmdSearch.enabled());
+    EXPECT_EQ(main.Name.text(), "Smith");
+    EXPECT_EQ(search(1, "77"), 1) << "order numbers are Ext2";
+    EXPECT_EQ(search(2, "*[2"), 1) << "only * and ? are wild";
+    EXPECT_EQ(search(2, "none"), 0);
+    EXPECT_EQ(main.Label8[0].caption(), "0 matche(s) found. Refresh Database to search again.");
+    EXPECT_EQ(search(2, "O'Brien"), 3) << "a criterion that breaks ends there";
+    EXPECT_EQ(main.Label8[0].caption(), "Database refreshed.");
+    EXPECT_EQ(finder.FabSText.text(), "O'Brien");
+  });
+}
+
+TEST_F(MainScreenTest, AfterAFaultJobsAreWorkedOutAgain) {
+  AddJobs({{{"1T(0)", ItemLine("7", "")}}, {{"1T(0)", ItemLine("8", "")}}});
+  Run([](MainScreen& main) {
+    main.QuickFinderGrid.UserOpenRow(1);
+    main.Town.UserType(std::string(256, 'x'));
+    Press(main, "munNew2");  // can't leave the job as it is
+    main.Town.UserType("Ludlow");
+    Press(main, "MuuNextRec");
+    EXPECT_EQ(main.Total.text(), "8.00");
+  });
+  const auto aside = folder_.path() / "aside";
+  std::filesystem::rename(folder_.jobs_file(), aside);
+  Run([this, &aside](MainScreen& main) {
+    std::filesystem::rename(aside, folder_.jobs_file());
+    Press(main, "munNew2");
+    Press(main, "MnuPrevRec");
+    EXPECT_EQ(main.Total.text(), "8.00");
+  });
+}
+
+TEST_F(MainScreenTest, NoOrderNumberIsGivenTwice) {
+  AddJobs({});
+  Run([](MainScreen& main) {
+    Press(main, "munNew2");
+    EXPECT_EQ(main.OrderReference.text(), "101");
+  });
+  EXPECT_EQ(folder_.Stored(kAdminTable, 0, "LastOrderNo"), "101");
+  // Where the number can't be stored there is no new job.
+  {
+    Database database(folder_.jobs_file());
+    database.Execute("CREATE TRIGGER no_number BEFORE UPDATE ON Admin BEGIN SELECT RAISE(FAIL, 'no'); END");
+  }
+  Run([this](MainScreen& main) {
+    host_.messages.clear();
+    Press(main, "munNew2");
+    EXPECT_EQ(host_.messages.size(), 1u);
+    EXPECT_FALSE(main.Data1.rows().IsAdding());
+  });
+  EXPECT_EQ(folder_.Count(kJobTable), 1);
 }
 
 TEST_F(MainScreenTest, MissingFilesAreNoHindrance) {
@@ -233,7 +340,7 @@ TEST_F(MainScreenTest, MissingFilesAreNoHindrance) {
     EXPECT_THAT(main.Label8[0].caption(), HasSubstr("Tarvane.mdb"));
     EXPECT_EQ(main.Name.text(), "");
     EXPECT_EQ(main.GTotal.text(), "");
-    EXPECT_EQ(main.RecordBar.caption(), "");
+    EXPECT_EQ(main.Records.Caption.caption(), "");
     EXPECT_THAT(main.SalesPerson.entries(), IsEmpty());
     EXPECT_THAT(host_.messages, IsEmpty());
     Press(main, "munNew2");
@@ -274,7 +381,8 @@ TEST_F(MainScreenTest, WhatCantBeSavedIsToldAndStays) {
 }
 
 TEST_F(MainScreenTest, CommandsFormOneTree) {
-  MainScreen main(host_, folder_.path());
+  Shop shop(folder_.path());
+  MainScreen main(host_, shop);
   for (const Command& command : Commands()) {
     const Button& button = main.CommandButton(command.name, command.index);
     EXPECT_EQ(button.kind(), command.kind);
@@ -285,9 +393,12 @@ TEST_F(MainScreenTest, CommandsFormOneTree) {
       EXPECT_FALSE(command.tip.empty()) << command.name;
       EXPECT_FALSE(button.shown());
     }
-    if (command.action == nullptr && command.kind != Button::Kind::kMenu) {
+    EXPECT_EQ(button.to_come(), command.action.to_come) << command.name;
+    if (command.action.to_come) {
       EXPECT_FALSE(button.enabled()) << command.name;
     }
+    const bool does_nothing = command.action.run == nullptr && !command.action.to_come;
+    EXPECT_EQ(does_nothing, command.kind == Button::Kind::kMenu) << command.name;
   }
 }
 
@@ -322,7 +433,7 @@ TEST_F(MainScreenTest, AddsAnItem) {
   Run([this](MainScreen& main) {
     main.OpenRecord();
     main.SSTab1.UserSelect(2);
-    host_.OnShow<MainCWizard>([&main](MainCWizard& wizard) {
+    host_.OnShow<curtain_wizard::MainCWizard>([&main](curtain_wizard::MainCWizard& wizard) {
       EXPECT_EQ(wizard.RoomIndex.text(), "2");
       EXPECT_EQ(wizard.Txtinfo.text(), "");
       EXPECT_EQ(wizard.TxtViewOnly.text(), "");
@@ -353,7 +464,7 @@ TEST_F(MainScreenTest, EditsItemsOfTheCurtainWizardOnly) {
       ++row;
       host_.shown.clear();
       host_.shows.clear();
-      host_.OnShow<MainCWizard>([row](MainCWizard& wizard) {
+      host_.OnShow<curtain_wizard::MainCWizard>([row](curtain_wizard::MainCWizard& wizard) {
         EXPECT_EQ(wizard.TxtRow.text(), std::to_string(row));
         EXPECT_EQ(wizard.TxtViewOnly.text(), "1");
         EXPECT_EQ(wizard.RoomIndex.text(), "0");
@@ -375,7 +486,7 @@ TEST_F(MainScreenTest, TheQuickWizardSavesNothing) {
   Run([this](MainScreen& main) {
     for (const char* command : {"Estimate", "Command2"}) {
       main.OpenRecord();
-      host_.OnShow<MainCWizard>([](MainCWizard& wizard) {
+      host_.OnShow<curtain_wizard::MainCWizard>([](curtain_wizard::MainCWizard& wizard) {
         EXPECT_EQ(wizard.TxtViewOnly.text(), "2");
         EXPECT_FALSE(wizard.CmdFinishTwo.visible());
         EXPECT_FALSE(wizard.CmdUpdateAndClose.visible());
@@ -393,4 +504,4 @@ TEST_F(MainScreenTest, WithoutAJobNoItemIsAdded) {
 }
 
 }  // namespace
-}  // namespace tarvane
+}  // namespace tarvane::app

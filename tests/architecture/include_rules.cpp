@@ -13,9 +13,11 @@ namespace fs = std::filesystem;
 
 // From the ground up. A folder may include itself and what stands in a lower row.
 const std::vector<std::vector<std::string>> kLayers = {
+    {"text"},
     {"text_number"},
     {"pdf", "store"},
     {"screen"},
+    {"shop"},
     {"job"},
     {"tools", "curtain_wizard", "printing"},
     {"app"},

@@ -4,7 +4,7 @@
 
 #include "wizard_shop.h"
 
-namespace tarvane {
+namespace tarvane::curtain_wizard {
 namespace {
 
 const char kFullRecord[] =
@@ -25,7 +25,7 @@ TEST(ItemRecord, Split) {
 
 TEST(ItemRecord, NewItemBecomesALineOfTheRoom) {
   WizardShop shop;
-  shop.WithJob([&shop](JobScreen& job) {
+  shop.WithJob([&shop](job::JobScreen& job) {
     std::string texts;
     shop.Wizard(job, [&texts](MainCWizard& w) {
       FillFullItem(w);
@@ -44,67 +44,86 @@ TEST(ItemRecord, NewItemBecomesALineOfTheRoom) {
                                                     "\r\nPrice Includes Vat/Tax  360.60\r\n" + rule))
         << job.RoomSummary[0].text();
     EXPECT_NE(job.RoomSummary[0].text().find("\r\n\r\n1 - Room & Ref No: "), std::string::npos);
+    // The summary is that of the tab in view.
+    const std::string summary = job.RoomSummary[0].text();
+    job.GoToRoom(3);
+    shop.SaveFullItem(job);
+    EXPECT_EQ(job.RoomItemGrid[0].RowCount(), 2);
+    EXPECT_NE(job.RoomSummary[2].text().find("360.60"), std::string::npos);
+    EXPECT_EQ(job.RoomSummary[0].text(), summary);
   });
 }
 
 TEST(ItemRecord, EditRestoresAndUpdateReplacesTheRow) {
   WizardShop shop;
-  shop.WithJob([&shop](JobScreen& job) {
-    for (int i = 0; i < 2; ++i) {
-      shop.Wizard(job, [](MainCWizard& w) {
-        FillFullItem(w);
-        w.CmdFinishTwo.UserPress();
-      });
-    }
+  shop.WithJob([&shop](job::JobScreen& job) {
+    for (int i = 0; i < 2; ++i) shop.SaveFullItem(job);
     const std::string before = job.RoomItems[0].text();
     shop.Edit(job, 2, [&job](MainCWizard& w) {
-      EXPECT_EQ(w.title(), "Edit Entry");
-      EXPECT_EQ(w.ItemNumber.text(), "101");
-      EXPECT_TRUE(w.InputInInches.on());
-      EXPECT_TRUE(w.TrackWidthIns.enabled());
-      EXPECT_FALSE(w.TrackWidthCm.enabled());
-      EXPECT_TRUE(w.LiningPrice.enabled());
-      EXPECT_TRUE(w.CboTieBacks.enabled());
-      EXPECT_TRUE(w.AutoRoundup.on());
-      EXPECT_EQ(w.TrimCost.text(), "24");
-      EXPECT_EQ(w.TxtVatRate.text(), "20.0");
-      EXPECT_TRUE(w.AddTrims.on()) << "isn't in the record: by the trim's cost";
-      EXPECT_TRUE(w.PlaceTop.enabled());
       EXPECT_EQ(job.TxtLastOrderNo.text(), "102") << "an edit uses no number up";
-      GoTo(w, 1);
-      w.FabricPrice.UserType("13");
-      GoTo(w, 6);
-      EXPECT_FALSE(w.CmdUpdateAndClose.enabled()) << "nothing is saved before Get Info";
-      w.CmdGetInfo.UserPress();
-      EXPECT_EQ(w.TrimMetres.text(), "5")
-          << "counted by metres again: that choice isn't in the record either";
-      EXPECT_EQ(w.totalCostingWiz.text(), "311.50");
-      w.CmdUpdateAndClose.UserPress();
+      // How trims are counted isn't in the record: by metres again.
+      Play(w, R"(
+        | ItemNumber=101 InputInInches=on +TrackWidthIns -TrackWidthCm +LiningPrice +CboTieBacks
+        | AutoRoundup=on TrimCost=24 TxtVatRate=20.0 AddTrims=on +PlaceTop TxtPriceTarget2=6
+        go 1; type FabricPrice 13; go 4; tick TrimPriceExVat; untick TrimPriceExVat | TrimPrice=6; go 6
+        press CmdGetInfo | TrimMetres=5 totalCostingWiz=311.50; press CmdUpdateAndClose
+      )");
     });
     const std::string& after = job.RoomItems[0].text();
     EXPECT_EQ(after.substr(0, after.find("\r\n")), before.substr(0, before.find("\r\n")));
     EXPECT_EQ(job.RoomItemGrid[0].RowCount(), 2);
-    EXPECT_EQ(job.RoomItemGrid[0].Cell(2, kPriceColumn), "373.80");
-    EXPECT_EQ(job.RoomItemGrid[0].Cell(2, kDescriptionColumn),
+    EXPECT_EQ(job.RoomItemGrid[0].Cell(2, job::kPriceColumn), "373.80");
+    EXPECT_EQ(job.RoomItemGrid[0].Cell(2, job::kDescriptionColumn),
               "Pinch Pleat - Room 1 - Bay window Track Width = 254Cms (100ins) X Drop = 203.2Cms (80ins)"
               " # Fabric = Blue linen Qty = 10 Mts # "
               " # Tie backs Needed. # Lined. # Interlined # Border Required ");
     EXPECT_EQ(job.RoomTotal[0].text(), "734.40");
+    EXPECT_EQ(shop.folder.Stored(kJobTable, 0, "1T(0)"), after) << "committed by the wizard";
+  });
+}
+
+TEST(ItemRecord, WhatCannotBeCommittedCanBeSavedAgain) {
+  WizardShop shop;
+  shop.WithJob([&shop](job::JobScreen& job) {
+    const auto refused = [&](MainCWizard& w, Button& save, const std::string& items, std::int64_t rows) {
+      job.Name.SetText(std::string(256, 'x'));  // more than its column takes
+      const std::string room = job.RoomSummary[0].text();
+      shop.host.messages.clear();
+      save.UserPress();
+      save.UserPress();
+      EXPECT_FALSE(w.is_closed());
+      EXPECT_EQ(shop.host.messages.size(), 2U);
+      EXPECT_EQ(job.RoomItems[0].text(), items);
+      EXPECT_EQ(job.RoomSummary[0].text(), room);
+      EXPECT_EQ(job.RoomItemGrid[0].RowCount(), rows);
+      job.Name.SetText("Ash");
+      save.UserPress();
+      EXPECT_TRUE(w.is_closed());
+      EXPECT_NE(shop.folder.Stored(kJobTable, 0, "1T(0)"), items);
+      EXPECT_EQ(shop.folder.Stored(kJobTable, 0, "1T(0)"), job.RoomItems[0].text());
+    };
+    shop.Wizard(job, [&](MainCWizard& w) {
+      FillFullItem(w);
+      refused(w, w.CmdFinishTwo, "", 0);
+    });
+    EXPECT_EQ(job.RoomItemGrid[0].RowCount(), 1);
+    EXPECT_EQ(shop.folder.Stored(kJobTable, 0, "Text10"), job.RoomSummary[0].text());
+    const std::string items = job.RoomItems[0].text();
+    shop.Edit(job, 1, [&](MainCWizard& w) {
+      Play(w, "go 6; press CmdGetInfo");
+      refused(w, w.CmdUpdateAndClose, items, 1);
+    });
   });
 }
 
 // Restores `record` in an edit and looks at the screen.
-void Restored(const std::string& record, const WizardShop::Step& look, const WizardShop::Step& before = {}) {
+void Restored(const std::string& record, const WizardShop::Step& look) {
   WizardShop shop;
-  shop.WithJob([&](JobScreen& job) {
-    shop.Wizard(job, look, [&](MainCWizard& w) {
-      if (before) before(w);
-      w.Txtinfo.SetText(record);
-      w.TxtRow.SetText("1");
-      w.TxtViewOnly.SetText("1");
-    });
-  });
+  shop.WithJob([&](job::JobScreen& job) { shop.Edit(job, 1, look, record); });
   EXPECT_TRUE(shop.host.messages.empty());
+}
+void Restored(const std::string& record, std::string_view look) {
+  Restored(record, [look](MainCWizard& w) { Play(w, look); });
 }
 
 // kFullRecord with some fields replaced.
@@ -125,89 +144,61 @@ TEST(ItemRecord, RoundTrip) {
   });
 }
 
-TEST(ItemRecord, ATildeShiftsWhatFollows) {
-  Restored(Record({{2, "Bay~window"}}), [](MainCWizard& w) {
-    EXPECT_EQ(w.TxtDescription.text(), "Bay");
-    EXPECT_EQ(w.TrackWidthIns.text(), "window");
-    EXPECT_EQ(w.FinishedLengthIns.text(), "100");
-  });
-}
-
-TEST(ItemRecord, ShortRecordsReadAsEmptyTexts) {
-  Restored("Room 3~Cafe~", [](MainCWizard& w) {
-    EXPECT_EQ(w.TxtRoom.text(), "Room 3");
-    EXPECT_EQ(w.CboCurtainStyle.text(), "Cafe");
-    EXPECT_EQ(w.TrackWidthIns.text(), "");
-    EXPECT_EQ(w.ItemNumber.text(), "");
-    EXPECT_FALSE(w.InputInInches.on());
-    EXPECT_FALSE(w.NoTieBacks.on());
-    EXPECT_TRUE(w.UnitCms.on());
+TEST(ItemRecord, OddRecords) {
+  // A tilde shifts what follows; missing fields are empty texts.
+  Restored(Record({{2, "Bay~window"}}), "| TxtDescription=Bay TrackWidthIns=window FinishedLengthIns=100");
+  Restored("Room 3~Cafe~", R"(| TxtRoom='Room 3' CboCurtainStyle=Cafe TrackWidthIns= ItemNumber=
+    | InputInInches=off NoTieBacks=off UnitCms=on AddTrims=off)");
+  Restored(Record({{52, "0.00"}}), "| AddTrims=off -TrimKind");
+  // No message of a calculation; the change of kind comes before the amounts.
+  Restored(Record({{45, "True"}, {47, "False"}, {35, "Trimming"}}), [](MainCWizard& w) {
+    Play(w, "| AutoMeasureGoblet=on TxtAmountInches=130");
+    EXPECT_TRUE(w.TrimmingPanel.visible());
+    EXPECT_FALSE(w.BordersPanel.visible());
   });
 }
 
 TEST(ItemRecord, UnitsAndTicks) {
-  struct Case {
-    std::string cms, mm;
-    bool cms_on, mm_on;
-    std::string label;
-  };
-  for (const Case& c : {Case{"True", "False", true, false, "Cms"}, Case{"False", "True", false, true, "mm"},
-                        Case{"", "", true, false, "Cms"}, Case{"False", "False", true, false, "Cms"},
-                        Case{"True", "True", false, true, "mm"}, Case{"x", "true", true, false, "Cms"}}) {
-    Restored(Record({{56, c.cms}, {57, c.mm}}), [&c](MainCWizard& w) {
-      EXPECT_EQ(w.UnitCms.on(), c.cms_on) << c.cms << ' ' << c.mm;
-      EXPECT_EQ(w.UnitMm.on(), c.mm_on) << c.cms << ' ' << c.mm;
-      EXPECT_EQ(w.UnitLabel[0].caption(), c.label) << c.cms << ' ' << c.mm;
-    });
-  }
-  Restored(
-      Record({{58, "0"}, {21, "0"}, {28, "1x"}, {29, "yes"}, {23, "1"}}),
-      [](MainCWizard& w) {
-        EXPECT_TRUE(w.AutoRoundup.on()) << "\"0\" doesn't turn it off";
-        EXPECT_FALSE(w.TrackWidthIns.enabled());
-        EXPECT_TRUE(w.LiningNeeded.on());
-        EXPECT_FALSE(w.InterliningNeeded.on());
-        w.AddTrims.UserSet(true);
-        EXPECT_FALSE(w.PlaceTop.enabled()) << "all sides";
-      },
-      [](MainCWizard& w) { w.AutoRoundup.Set(true); });
-  Restored(Record({{45, "True"}, {47, "False"}, {35, "Trimming"}}), [](MainCWizard& w) {
-    EXPECT_TRUE(w.AutoMeasureGoblet.on()) << "and no message of its calculation";
-    EXPECT_TRUE(w.TrimmingPanel.visible());
-    EXPECT_FALSE(w.BordersPanel.visible());
-    EXPECT_EQ(w.TxtAmountInches.text(), "130") << "the change of kind comes before the amounts";
+  const std::array<const char*, 3> units[] = {{"True", "False", "| UnitCms=on UnitMm=off UnitLabel[0]=Cms"},
+                                              {"False", "True", "| UnitCms=off UnitMm=on UnitLabel[0]=mm"},
+                                              {"", "", "| UnitCms=on UnitMm=off UnitLabel[0]=Cms"},
+                                              {"False", "False", "| UnitCms=on UnitMm=off UnitLabel[0]=Cms"},
+                                              {"True", "True", "| UnitCms=off UnitMm=on UnitLabel[0]=mm"},
+                                              {"x", "true", "| UnitCms=on UnitMm=off UnitLabel[0]=Cms"}};
+  for (const auto& [cms, mm, look] : units) Restored(Record({{56, cms}, {57, mm}}), look);
+  Restored(Record({{56, ""}, {57, ""}}), [](MainCWizard& w) {
+    w.UnitMm.Set(true);
+    w.LoadItemRecord();
+    Play(w, "| UnitCms=on UnitMm=off");
+  });
+  Restored(Record({{58, "0"}, {21, "0"}, {28, "1x"}, {29, "yes"}, {23, "1"}}), [](MainCWizard& w) {
+    // All sides are chosen.
+    Play(w, "| AutoRoundup=off -TrackWidthIns LiningNeeded=on InterliningNeeded=off -PlaceTop");
+    w.AutoRoundup.Set(true);
+    w.LoadItemRecord();
+    EXPECT_TRUE(w.AutoRoundup.on()) << "\"0\" doesn't turn it off";
   });
 }
 
 TEST(ItemRecord, UpdateOfARowThatIsGoneChangesNothing) {
   WizardShop shop;
-  shop.WithJob([&shop](JobScreen& job) {
-    shop.Edit(job, 7, [&shop](MainCWizard& w) {
-      w.CmdUpdateAndClose.UserPress();
+  shop.WithJob([&shop](job::JobScreen& job) {
+    const auto update = [&shop](MainCWizard& w) {
+      Play(w, "go 6; press CmdGetInfo; press CmdUpdateAndClose");
       EXPECT_FALSE(w.is_closed());
       EXPECT_EQ(shop.host.messages.size(), 1U);
-    });
+    };
+    shop.Edit(job, 7, update, "Room 1~");
     EXPECT_EQ(job.RoomItems[0].text(), "");
   });
 }
 
-TEST(ItemRecord, Clipboard) {
+TEST(ItemRecord, ForATextEditorThePricedTextIsCopiedAlone) {
   WizardShop shop;
   shop.NewItem([&shop](MainCWizard& w) {
-    GoTo(w, 6);
-    w.CmdCopy.UserPress();
-    EXPECT_EQ(shop.host.messages.back(), "Nothing to copy");
-    EXPECT_EQ(shop.host.clipboard, "");
     w.ItemTextPriced.SetText("1 - Room\r\n");
-    w.totalCostingWiz.SetText("10.00");
-    w.TotalCostingVat.SetText("2.00");
-    w.GrandTotal.SetText("12.00");
     w.CmdCopy.UserPress();
-    EXPECT_EQ(shop.host.clipboard,
-              "1 - Room\r\n\r\n=====================\r\nCosting: 10.00\r\nVat/Tax: 2.00\r\n"
-              "Grand Total: 12.00\r\n=====================\r\n");
-    EXPECT_EQ(shop.host.messages.back(),
-              "This Information has been copied to the clipboard. Use a text editor to print it out.");
+    EXPECT_TRUE(shop.host.clipboard.ends_with("\r\nGrand Total: 0.00\r\n=====================\r\n"));
     shop.host.answers = {Answer::kNo, Answer::kYes};
     w.CopyForTextEditor();
     EXPECT_EQ(shop.host.clipboard, "1 - Room\r\n");
@@ -218,4 +209,4 @@ TEST(ItemRecord, Clipboard) {
 }
 
 }  // namespace
-}  // namespace tarvane
+}  // namespace tarvane::curtain_wizard

@@ -2,7 +2,7 @@
 
 #include "wizard_shop.h"
 
-namespace tarvane {
+namespace tarvane::curtain_wizard {
 namespace {
 
 const char kFullLink[] =
@@ -31,15 +31,8 @@ TEST(LinkFile, RoundTrip) {
     shop.host.files = {file};
     w.OpenLink();
     EXPECT_TRUE(shop.host.questions.empty()) << "nothing had changed";
-    EXPECT_EQ(w.TrackWidthIns.text(), "100");
-    EXPECT_EQ(w.CboTrims.text(), "Border to 2 sides and base");
-    EXPECT_TRUE(w.TieBacksNeeded.on());
-    EXPECT_TRUE(w.CboTieBacks.enabled());
-    EXPECT_TRUE(w.LiningNeeded.on());
-    EXPECT_TRUE(w.LiningPrice.enabled());
-    EXPECT_TRUE(w.PlaceTop.on());
-    EXPECT_FALSE(w.AllSides.on());
-    EXPECT_EQ(w.LabourPrice.text(), "15");
+    Play(w, R"(| TrackWidthIns=100 CboTrims='Border to 2 sides and base' TieBacksNeeded=on +CboTieBacks
+      | LiningNeeded=on +LiningPrice PlaceTop=on AllSides=off LabourPrice=15)");
 
     w.TrackWidthIns.SetText("");
     shop.host.answers = {Answer::kNo, Answer::kYes};
@@ -59,16 +52,13 @@ TEST(LinkFile, AGobletChoiceIsLostAndTheListOptionKept) {
   shop.host.files = {file, file};
   shop.NewItem([&](MainCWizard& w) {
     w.AutoMeasureGoblet.Set(true);
-    w.Option6.Set(true);
+    w.Lists.Options[1].Set(true);
     w.SaveLinkAs();
   });
-  shop.NewItem([&](MainCWizard& w) {
-    EXPECT_TRUE(w.OptionCancel.on());
-    EXPECT_TRUE(w.Option5.on());
+  shop.NewItem([](MainCWizard& w) {
+    Play(w, "| OptionCancel=on Option5=on");
     w.OpenLink();
-    EXPECT_FALSE(w.AutoMeasureGoblet.on());
-    EXPECT_FALSE(w.OptionCancel.on());
-    EXPECT_FALSE(w.Option5.on());
+    Play(w, "| AutoMeasureGoblet=off OptionCancel=off Option5=off");
   });
 }
 
@@ -79,11 +69,10 @@ TEST(LinkFile, LinesAreTrimmedAndBadFilesFault) {
   shop.folder.Write("window.tvs", text);
   shop.folder.Write("short.tvs", "100\r\n54\r\n");
   shop.NewItem([&](MainCWizard& w) {
-    shop.host.files = {shop.folder.path() / "window.tvs", shop.folder.path() / "short.tvs",
-                       shop.folder.path() / "missing.tvs"};
+    for (const char* file : {"window.tvs", "short.tvs", "missing.tvs"})
+      shop.host.files.emplace_back(shop.folder.path() / file);
     w.OpenLink();
-    EXPECT_EQ(w.TrackWidthIns.text(), "1");
-    EXPECT_EQ(w.LabourPrice.text(), "40");
+    Play(w, "| TrackWidthIns=1 LabourPrice=40");
     EXPECT_THROW(w.OpenLink(), Fault);
     EXPECT_THROW(w.OpenLink(), Fault);
     EXPECT_EQ(w.TrackWidthIns.text(), "1") << "a file that isn't one changes nothing";
@@ -91,4 +80,4 @@ TEST(LinkFile, LinesAreTrimmedAndBadFilesFault) {
 }
 
 }  // namespace
-}  // namespace tarvane
+}  // namespace tarvane::curtain_wizard

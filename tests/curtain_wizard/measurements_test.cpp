@@ -2,227 +2,142 @@
 
 #include "wizard_shop.h"
 
-namespace tarvane {
+namespace tarvane::curtain_wizard {
 namespace {
 
-class Measurements : public testing::Test {
- protected:
-  void At(const WizardShop::Step& step) { shop.NewItem(step); }
-  WizardShop shop;
-};
-
-struct Window {
-  std::string name;
-  std::string track, fabric, fullness, length, repeat, hem;
-  std::string drops, patterns, cut, total, metres;
-};
-
-TEST_F(Measurements, Calculate) {
-  const std::string plain = "Plain Fabric Used";
-  for (const Window& c : {
-           Window{"patterned", "100", "54", "2", "80", "10", "8", "4", "9", "90", "360", "9.11"},
-           Window{"plain", "100", "54", "2", "80", "0", "8", "4", plain, "88", "352", "8.91"},
-           Window{"repeat left empty", "100", "54", "2", "80", "", "8", "4", plain, "88", "352", "8.91"},
-           Window{"half goes to even", "67.5", "54", "2", "80", "0", "8", "2", plain, "88", "176", "4.46"},
-           Window{"half of an odd one", "94.5", "54", "2", "80", "0", "8", "4", plain, "88", "352", "8.91"},
-           Window{"no decimals to see", "5001", "5000", "2", "80", "0", "8", "2.0004", plain, "88",
-                  "176.0352", "4.46"},
-           Window{"barely a decimal", "5001.5", "5000", "2", "80", "0", "8", "3", plain, "88", "264", "6.68"},
-           Window{"leading numbers", "100 in", "54\"", "2x", "80,5", "10.", "8 ", "4", "9", "90", "360",
-                  "9.11"},
-           Window{"nothing but words", "wide", "54", "full", "long", "0", "x", "0", plain, "0", "0", "0.00"},
-       }) {
-    At([&c](MainCWizard& w) {
+// Track, fabric width, fullness, length, repeat and hem; then drops, patterns, cut, total inches and metres.
+TEST(Measurements, Calculate) {
+  const std::pair<std::string_view, std::string_view> windows[] = {
+      {"100 54 2 80 10 8", "4 9 90 360 9.11"},
+      {"100 54 2 80 0 8", "4 'Plain Fabric Used' 88 352 8.91"},
+      {"100 54 2 80 '' 8", "4 'Plain Fabric Used' 88 352 8.91"},
+      // Halves go to an even number of widths; what shows no decimals isn't rounded.
+      {"67.5 54 2 80 0 8", "2 'Plain Fabric Used' 88 176 4.46"},
+      {"94.5 54 2 80 0 8", "4 'Plain Fabric Used' 88 352 8.91"},
+      {"5001 5000 2 80 0 8", "2.0004 'Plain Fabric Used' 88 176.0352 4.46"},
+      {"5001.5 5000 2 80 0 8", "3 'Plain Fabric Used' 88 264 6.68"},
+      // The leading number counts, or nought.
+      {"'100 in' 54\" 2x 80,5 10. '8 '", "4 9 90 360 9.11"},
+      {"wide 54 full long 0 x", "0 'Plain Fabric Used' 0 0 0.00"}};
+  for (const auto& [measures, figures] : windows) {
+    WizardShop().NewItem([&](MainCWizard& w) {
       w.InputInInches.UserSet(true);
-      w.TrackWidthIns.UserType(c.track);
-      w.FabricWidthIns.UserType(c.fabric);
-      w.Fullness.UserType(c.fullness);
-      w.FinishedLengthIns.UserType(c.length);
-      w.PatternRepeatIns.UserType(c.repeat);
-      w.HemAllowanceIns.UserType(c.hem);
+      const std::vector<std::string> typed = Words(measures), wanted = Words(figures);
+      TextField* const boxes[] = {&w.TrackWidthIns,     &w.FabricWidthIns,   &w.Fullness,
+                                  &w.FinishedLengthIns, &w.PatternRepeatIns, &w.HemAllowanceIns};
+      for (std::size_t box = 0; box < std::size(boxes); ++box) boxes[box]->UserType(typed.at(box));
       w.CmdCalculate.UserPress();
-      EXPECT_EQ(w.NumberOfDrops.text(), c.drops) << c.name;
-      EXPECT_EQ(w.PatternsPerDrop.text(), c.patterns) << c.name;
-      EXPECT_EQ(w.CutLengthIns.text(), c.cut) << c.name;
-      EXPECT_EQ(w.TotalInches.text(), c.total) << c.name;
-      EXPECT_EQ(w.MetresRequired.text(), c.metres) << c.name;
+      EXPECT_EQ((std::vector{w.NumberOfDrops.text(), w.PatternsPerDrop.text(), w.CutLengthIns.text(),
+                             w.TotalInches.text(), w.MetresRequired.text()}),
+                wanted)
+          << measures;
     });
   }
 }
 
-TEST_F(Measurements, NoFabricWidthKeepsTheFormerDrops) {
-  At([](MainCWizard& w) {
-    TypePatternedItem(w);
-    w.CmdCalculate.UserPress();
-    w.FabricWidthIns.UserType("");
-    EXPECT_EQ(w.FabricWidthIns.text(), "0") << "an emptied box";
-    w.FinishedLengthIns.UserType("90");
-    w.CmdCalculate.UserPress();
-    EXPECT_EQ(w.NumberOfDrops.text(), "4");
-    EXPECT_EQ(w.TotalInches.text(), "400") << "the calculation carries on";
+// Plays `script` behind `before`; gives what was told.
+std::vector<std::string> Told(std::string_view before, std::string_view script) {
+  WizardShop shop;
+  shop.Item(std::string(before) + std::string(script));
+  return shop.host.messages;
+}
+
+TEST(Measurements, NoFabricWidthKeepsTheFormerDrops) {
+  Told(kPatternedItem, R"(
+    press CmdCalculate; type FabricWidthIns '' | FabricWidthIns=0; type FinishedLengthIns 90
+    press CmdCalculate | NumberOfDrops=4 TotalInches=400
+  )");
+}
+
+TEST(Measurements, AutoMeasureReplacesTheFullness) {
+  const auto told = Told(kPatternedItem, R"(
+    type TrackWidthIns 120; tick AutoMeasureGoblet | NumberOfDrops=6 TxtAutoTrack=300 TxtMTrack=2.5
+    tick AutoMeasureBoxPleat | NumberOfDrops=7
+    # The option that is on already runs its action as well, and so does Cancel, but without a message.
+    type TrackWidthIns 60; click AutoMeasureBoxPleat | NumberOfDrops=4; type TrackWidthIns 120
+    click OptionCancel | TxtMTrack=1 TxtAutoTrack=0 NumberOfDrops=5
+  )");
+  EXPECT_EQ(told, (std::vector<std::string>{"Goblet - Track X by 2.5 = 300", "Box Pleated Track X by 3 = 360",
+                                            "Box Pleated Track X by 3 = 180"}));
+}
+
+TEST(Measurements, BoxesMirrorEachOther) {
+  // On leaving or Enter: the track to a hundredth, the others to a tenth. The hem converts back on each
+  // change.
+  Told("", R"(
+    | InputInInches@'Input Measument in Centimetres' -TrackWidthIns -Fullness +TrackWidthCm +FullnessMirror
+    type TrackWidthCm 120; type FabricWidthCm 137 | TrackWidthIns=47.24
+    key FabricWidthCm | FabricWidthIns=53.9; type FinishedLengthCm 200; type PatternRepeatCm 64
+    type FullnessMirror 2.5 | FinishedLengthIns=78.7 PatternRepeatIns=25.2 Fullness=2.5
+    type HemAllowanceCm 20; key HemAllowanceCm | HemAllowanceIns=7.9 HemAllowanceCm=20.066
+    tick InputInInches | InputInInches@'Input Measument in Inches' -HemAllowanceCm -FullnessMirror
+    | +HemAllowanceIns; type TrackWidthIns 100 | TrackWidthCm=120; key TrackWidthIns | TrackWidthCm=254
+    type HemAllowanceIns 8 | HemAllowanceCm=20.32
+    type HemAllowanceIns '' | HemAllowanceIns=0 HemAllowanceCm=0; type Fullness '' | FullnessMirror=
+    leave Fullness | Fullness=2 FullnessMirror=2
+  )");
+}
+
+TEST(Measurements, LeavingConvertsOnlyWhatWasChanged) {
+  WizardShop().NewItem([](MainCWizard& w) {
+    const auto pass = [&w](std::initializer_list<TextField*> boxes) {
+      for (TextField* box : boxes) box->UserFocus();
+      w.CmdNext.UserFocus();
+    };
+    pass({&w.FabricWidthCm, &w.HemAllowanceCm, &w.TrackWidthCm, &w.FabricWidthIns});
+    Play(w, "| FabricWidthIns=54 FabricWidthCm=139.7 HemAllowanceIns=9 HemAllowanceCm=20.32");
+    Play(w, kPatternedItem);
+    Play(w, "tick UnitMm; untick InputInInches | TrackWidthCm=2540");
+    pass({&w.TrackWidthCm, &w.FabricWidthCm, &w.FinishedLengthCm, &w.PatternRepeatCm, &w.HemAllowanceCm});
+    Play(w, "| TrackWidthIns=100 FinishedLengthIns=80 PatternRepeatIns=10 HemAllowanceIns=8");
+    // What Enter has converted isn't converted once more.
+    Play(w, "type TrackWidthCm 300\nkey TrackWidthCm | TrackWidthIns=118.11");
+    w.TrackWidthIns.SetText("7");
+    pass({});
+    EXPECT_EQ(w.TrackWidthIns.text(), "7");
   });
 }
 
-TEST_F(Measurements, AutoMeasureReplacesTheFullness) {
-  At([this](MainCWizard& w) {
-    TypePatternedItem(w);
-    w.TrackWidthIns.UserType("120");
-    w.AutoMeasureGoblet.UserSet(true);
-    EXPECT_EQ(shop.host.messages.back(), "Goblet - Track X by 2.5 = 300");
-    EXPECT_EQ(shop.host.titles.back(), "Tarvane Auto Mersure");
-    EXPECT_EQ(w.NumberOfDrops.text(), "6") << "300 / 54";
-    EXPECT_EQ(w.TxtAutoTrack.text(), "300");
-    EXPECT_EQ(w.TxtMTrack.text(), "2.5");
-    EXPECT_EQ(w.TrackWidthIns.text(), "120");
-    w.AutoMeasureBoxPleat.UserSet(true);
-    EXPECT_EQ(shop.host.messages.back(), "Box Pleated Track X by 3 = 360");
-    EXPECT_EQ(w.NumberOfDrops.text(), "7") << "360 / 54";
-    const std::size_t told = shop.host.messages.size();
-    w.CmdNext.UserPress();
-    EXPECT_EQ(shop.host.messages.size(), told + 1) << "on arrival at the fabric too";
-    w.CmdBack.UserPress();
-    w.OptionCancel.UserSet(true);
-    EXPECT_EQ(shop.host.messages.size(), told + 1);
-    EXPECT_EQ(w.TxtMTrack.text(), "1");
-    EXPECT_EQ(w.TxtAutoTrack.text(), "0");
-    EXPECT_EQ(w.NumberOfDrops.text(), "5") << "the fullness counts again: 240 / 54";
-  });
+TEST(Measurements, BadTextLeavesTheMirror) {
+  const auto told = Told("", R"(
+    tick InputInInches; type TrackWidthIns 100; key TrackWidthIns; type TrackWidthIns ''
+    key TrackWidthIns | TrackWidthCm=254 TrackWidthIns=; type TrackWidthIns wide
+    leave TrackWidthIns | TrackWidthCm=254 TrackWidthIns=wide; type TrackWidthIns '12 ft'
+    key TrackWidthIns; leave TrackWidthIns | TrackWidthCm=254 TrackWidthIns='12 ft'
+    type PatternRepeatIns ''; leave PatternRepeatIns | PatternRepeatIns=
+    key PatternRepeatIns | PatternRepeatIns=0 PatternRepeatCm=0
+  )");
+  EXPECT_TRUE(told.empty());
 }
 
-TEST_F(Measurements, RoundUp) {
-  At([](MainCWizard& w) {
-    TypePatternedItem(w);
-    GoTo(w, 1);
-    EXPECT_EQ(w.MetresRequired.text(), "9.11");
-    EXPECT_EQ(w.FabricMetres.text(), "9.11");
-    GoTo(w, 0);
-    w.CmdRoundUp.UserPress();
-    EXPECT_EQ(w.MetresRequired.text(), "10");
-    EXPECT_TRUE(w.AutoRoundup.on());
-    w.CmdRoundUp.UserPress();
-    EXPECT_EQ(w.MetresRequired.text(), "11") << "a whole number goes up as well";
-    GoTo(w, 1);
-    EXPECT_EQ(w.MetresRequired.text(), "10") << "worked out from scratch";
-    EXPECT_EQ(w.FabricMetres.text(), "10");
-    // 3.00 metres: 118.5 inches.
-    GoTo(w, 0);
-    w.PatternRepeatIns.UserType("0");
-    w.HemAllowanceIns.UserType("0");
-    w.TrackWidthIns.UserType("27");
-    w.FinishedLengthIns.UserType("118.5");
-    GoTo(w, 1);
-    EXPECT_EQ(w.MetresRequired.text(), "4");
-    GoTo(w, 0);
-    GoTo(w, 1);
-    EXPECT_EQ(w.MetresRequired.text(), "4");
-  });
+TEST(Measurements, MillimetresAreShownOnly) {
+  Told(kPatternedItem, R"(
+    press CmdCalculate
+    tick UnitMm | UnitLabel[0]=mm UnitLabel[1]=mm TrackWidthCm=2540 FinishedLengthCm=2032 CutLengthCm=2286
+    # Patterned fabric is cut in millimetres, plain fabric in centimetres all the same.
+    press CmdCalculate | CutLengthCm=2286; type PatternRepeatIns 0
+    press CmdCalculate | CutLengthCm=223.52; tick UnitCms | UnitLabel[1]=Cms TrackWidthCm=254
+    tick UnitMm; untick InputInInches; type TrackWidthCm 300; key TrackWidthCm | TrackWidthIns=118.11
+  )");
 }
 
-TEST_F(Measurements, BoxesMirrorEachOther) {
-  At([](MainCWizard& w) {
-    w.TrackWidthCm.UserType("120");
-    w.FabricWidthCm.UserType("137");
-    EXPECT_EQ(w.TrackWidthIns.text(), "47.24") << "on leaving, to a hundredth";
-    w.FabricWidthCm.UserEnterKey();
-    EXPECT_EQ(w.FabricWidthIns.text(), "53.9") << "on Enter, to a tenth";
-    w.FinishedLengthCm.UserType("200");
-    w.PatternRepeatCm.UserType("64");
-    w.FullnessMirror.UserType("2.5");
-    EXPECT_EQ(w.FinishedLengthIns.text(), "78.7");
-    EXPECT_EQ(w.PatternRepeatIns.text(), "25.2");
-    EXPECT_EQ(w.Fullness.text(), "2.5") << "at once";
-    w.HemAllowanceCm.UserType("20");
-    w.HemAllowanceCm.UserEnterKey();
-    EXPECT_EQ(w.HemAllowanceIns.text(), "7.9");
-    EXPECT_EQ(w.HemAllowanceCm.text(), "20.066") << "the hem converts back on every change";
-
-    w.InputInInches.UserSet(true);
-    w.TrackWidthIns.UserType("100");
-    EXPECT_EQ(w.TrackWidthCm.text(), "120");
-    w.TrackWidthIns.UserEnterKey();
-    EXPECT_EQ(w.TrackWidthCm.text(), "254");
-    w.HemAllowanceIns.UserType("8");
-    EXPECT_EQ(w.HemAllowanceCm.text(), "20.32");
-    w.HemAllowanceIns.UserType("");
-    EXPECT_EQ(w.HemAllowanceIns.text(), "0");
-    EXPECT_EQ(w.HemAllowanceCm.text(), "0");
-    w.Fullness.UserType("");
-    EXPECT_EQ(w.FullnessMirror.text(), "");
-    w.Fullness.UserLeave();
-    EXPECT_EQ(w.Fullness.text(), "2");
-    EXPECT_EQ(w.FullnessMirror.text(), "2");
-  });
-}
-
-TEST_F(Measurements, BadTextLeavesTheMirror) {
-  At([this](MainCWizard& w) {
-    w.InputInInches.UserSet(true);
-    w.TrackWidthIns.UserType("100");
-    w.TrackWidthIns.UserEnterKey();
-    for (const char* bad : {"", "wide", "12 ft"}) {
-      w.TrackWidthIns.UserType(bad);
-      w.TrackWidthIns.UserEnterKey();
-      w.TrackWidthIns.UserLeave();
-      EXPECT_EQ(w.TrackWidthCm.text(), "254") << bad;
-      EXPECT_EQ(w.TrackWidthIns.text(), bad) << "no default";
-    }
-    w.PatternRepeatIns.UserType("");
-    w.PatternRepeatIns.UserLeave();
-    EXPECT_EQ(w.PatternRepeatIns.text(), "");
-    w.PatternRepeatIns.UserEnterKey();
-    EXPECT_EQ(w.PatternRepeatIns.text(), "0");
-    EXPECT_EQ(w.PatternRepeatCm.text(), "0");
-    EXPECT_TRUE(shop.host.messages.empty());
-  });
-}
-
-TEST_F(Measurements, InputUnitSwitchesTheBoxes) {
-  At([](MainCWizard& w) {
-    EXPECT_EQ(w.InputInInches.caption(), "Input Measument in Centimetres");
-    EXPECT_FALSE(w.TrackWidthIns.enabled());
-    EXPECT_FALSE(w.Fullness.enabled());
-    EXPECT_TRUE(w.TrackWidthCm.enabled());
-    EXPECT_TRUE(w.FullnessMirror.enabled());
-    w.InputInInches.UserSet(true);
-    EXPECT_EQ(w.InputInInches.caption(), "Input Measument in Inches");
-    EXPECT_TRUE(w.HemAllowanceIns.enabled());
-    EXPECT_FALSE(w.HemAllowanceCm.enabled());
-    EXPECT_FALSE(w.FullnessMirror.enabled());
-  });
-}
-
-TEST_F(Measurements, MillimetresAreShownOnly) {
-  At([](MainCWizard& w) {
-    TypePatternedItem(w);
-    w.TrackWidthIns.UserType("");
-    w.UnitMm.UserSet(true);
-    EXPECT_EQ(w.UnitLabel[0].caption(), "Cms") << "with an empty box a press does nothing";
-    w.UnitCms.UserSet(true);
-
-    w.TrackWidthIns.UserType("100");
-    w.CmdCalculate.UserPress();
-    w.UnitMm.UserSet(true);
-    EXPECT_EQ(w.UnitLabel[0].caption(), "mm");
-    EXPECT_EQ(w.UnitLabel[1].caption(), "mm");
-    EXPECT_EQ(w.TrackWidthCm.text(), "2540");
-    EXPECT_EQ(w.FinishedLengthCm.text(), "2032");
-    EXPECT_EQ(w.CutLengthCm.text(), "2286");
-    w.CmdCalculate.UserPress();
-    EXPECT_EQ(w.CutLengthCm.text(), "2286") << "patterned: millimetres";
-    w.PatternRepeatIns.UserType("0");
-    w.CmdCalculate.UserPress();
-    EXPECT_EQ(w.CutLengthCm.text(), "223.52") << "plain: centimetres all the same";
-
-    w.UnitCms.UserSet(true);
-    EXPECT_EQ(w.UnitLabel[1].caption(), "Cms");
-    EXPECT_EQ(w.TrackWidthCm.text(), "254");
-    w.UnitMm.UserSet(true);
-    w.InputInInches.UserSet(false);
-    w.TrackWidthCm.UserType("300");
-    w.TrackWidthCm.UserEnterKey();
-    EXPECT_EQ(w.TrackWidthIns.text(), "118.11") << "typed ones are centimetres still";
-  });
+TEST(Measurements, WithAnEmptyBoxAPressOnAUnitDoesNothing) {
+  for (const std::string& box :
+       Words("TrackWidthIns TrackWidthCm FabricWidthIns FabricWidthCm FinishedLengthIns FinishedLengthCm "
+             "PatternRepeatIns PatternRepeatCm HemAllowanceIns HemAllowanceCm")) {
+    WizardShop().NewItem([&box](MainCWizard& w) {
+      Play(w, kPatternedItem);
+      Play(w, "press CmdCalculate");
+      auto* field = As<TextField>(*w.Find(box));
+      field->LoadText("");
+      Play(w, "tick UnitMm  | UnitMm=off UnitCms=on UnitLabel[0]=Cms CutLengthCm=228.6");
+      field->LoadText("1");
+      Play(w, "tick UnitMm | UnitMm=on UnitLabel[0]=mm CutLengthCm=2286");
+      field->LoadText("");
+      Play(w, "tick UnitCms | UnitCms=off UnitMm=on UnitLabel[0]=mm CutLengthCm=2286");
+    });
+  }
 }
 
 }  // namespace
-}  // namespace tarvane
+}  // namespace tarvane::curtain_wizard

@@ -4,234 +4,126 @@
 
 #include "wizard_shop.h"
 
-namespace tarvane {
+namespace tarvane::curtain_wizard {
 namespace {
 
-constexpr TrimMeasure Trim(double widths, double fabric, double cut, double drop) {
-  return {.widths = widths, .fabric_width = fabric, .border_cut = cut, .drop = drop};
-}
-
-TrimMeasure Placed(TrimMeasure trim, std::string_view places) {
-  trim.all_sides = places.find('a') != std::string_view::npos;
-  trim.top = places.find('t') != std::string_view::npos;
-  trim.bottom = places.find('b') != std::string_view::npos;
-  trim.two_sides = places.find('2') != std::string_view::npos;
-  trim.four_sides = places.find('4') != std::string_view::npos;
-  return trim;
-}
-
-struct InchCase {
-  TrimMeasure trim;
-  std::string places;  // a: all sides, t: top, b: bottom, 2 and 4: sides
-  std::optional<double> inches;
+struct Placement {
+  std::string_view places;  // a: all sides, t: top, b: bottom, 2 and 4: sides
+  double fabric, cut;       // of 4 widths and a drop of 90 inches
+  std::optional<double> border;
+  double trimming;
 };
 
-TEST(Trims, BorderInches) {
-  for (const InchCase& c : {
-           InchCase{Trim(4, 54, 10, 90), "", std::nullopt},
-           InchCase{Trim(4, 54, 10, 90), "a", 170},    // 54 holds the 40 of a strip: one drop
-           InchCase{Trim(4, 39, 10, 90), "a", 260},    // it doesn't: two drops
-           InchCase{Trim(4, 40, 10, 90), "a", 170},    // just so
-           InchCase{Trim(4, 54, 10, 90), "t", 40},     //
-           InchCase{Trim(4, 54, 10, 90), "b", 40},     //
-           InchCase{Trim(4, 54, 10, 90), "tb", 80},    //
-           InchCase{Trim(4, 54, 10, 90), "2", 90},     //
-           InchCase{Trim(4, 19, 10, 90), "2", 180},    //
-           InchCase{Trim(4, 30, 10, 90), "4", 180},    // 30 is less than 40
-           InchCase{Trim(4, 40, 10, 90), "4", 90},     //
-           InchCase{Trim(4, 54, 10, 90), "t2", 130},   // sides add to the top
-           InchCase{Trim(4, 30, 10, 90), "tb4", 260},  //
-           InchCase{Trim(4, 54, 0, 90), "t", 0},
-       }) {
-    EXPECT_EQ(BorderInches(Placed(c.trim, c.places)), c.inches) << c.places << ' ' << c.trim.fabric_width;
+TEST(Trims, InchesOfBorderAndTrimming) {
+  const Placement placements[] = {{"", 54, 10, std::nullopt, 0},  //
+                                  {"a", 54, 10, 170, 792},        // 54 holds the 40 of a strip: one drop
+                                  {"a", 39, 10, 260, 672},        // it doesn't: two drops
+                                  {"a", 40, 10, 170, 680},        // just so
+                                  {"t", 54, 10, 40, 216},         //
+                                  {"b", 54, 10, 40, 216},         //
+                                  {"tb", 54, 10, 80, 432},        //
+                                  {"2", 54, 10, 90, 180},         //
+                                  {"2", 19, 10, 180, 180},        //
+                                  {"4", 54, 10, 90, 360},         //
+                                  {"4", 30, 10, 180, 360},        // 30 is less than 40
+                                  {"4", 40, 10, 90, 360},         //
+                                  {"t2", 54, 10, 130, 396},       // sides add to the top
+                                  {"b4", 54, 10, 130, 576},       //
+                                  {"tb4", 30, 10, 260, 600},      //
+                                  {"t", 54, 0, 0, 216}};
+  for (const Placement& c : placements) {
+    const auto at = [&c](char place) { return c.places.find(place) != std::string_view::npos; };
+    const TrimMeasure trim = {4, c.fabric, c.cut, 90, at('a'), at('t'), at('b'), at('2'), at('4')};
+    EXPECT_EQ(BorderInches(trim), c.border) << c.places << ' ' << c.fabric;
+    EXPECT_EQ(TrimmingInches(trim), c.trimming) << c.places << ' ' << c.fabric;
   }
 }
 
-TEST(Trims, TrimmingInches) {
-  for (const InchCase& c : {
-           InchCase{Trim(4, 54, 10, 90), "a", 4 * 54 * 2 + 360},
-           InchCase{Trim(4, 54, 10, 90), "t", 216},
-           InchCase{Trim(4, 54, 10, 90), "b", 216},
-           InchCase{Trim(4, 54, 10, 90), "tb", 432},
-           InchCase{Trim(4, 54, 10, 90), "2", 180},
-           InchCase{Trim(4, 54, 10, 90), "4", 360},
-           InchCase{Trim(4, 54, 10, 90), "b4", 576},
-           InchCase{Trim(4, 54, 10, 90), "", 0},
-       }) {
-    EXPECT_EQ(TrimmingInches(Placed(c.trim, c.places)), c.inches) << c.places;
-  }
+// The patterned item, at the step of the trims; gives what was told.
+std::vector<std::string> AtTrims(std::string_view script, std::string_view vat = "0") {
+  WizardShop shop(vat);
+  shop.Item(std::string(kPatternedItem) + "go 4\n" + std::string(script));
+  return shop.host.messages;
 }
 
-class TrimStep : public testing::Test {
- protected:
-  // The patterned item, at the step of the trims.
-  void At(const WizardShop::Step& step, std::string_view vat = "0") {
-    WizardShop shop(vat);
-    host = &shop.host;
-    shop.NewItem([&](MainCWizard& w) {
-      TypePatternedItem(w);
-      GoTo(w, 4);
-      step(w);
-    });
-  }
-  FakeHost* host = nullptr;
-};
-
-TEST_F(TrimStep, IsOffUntilTrimsAreAdded) {
-  At([](MainCWizard& w) {
-    for (const Control* control : std::initializer_list<Control*>{
-             &w.TrimKind, &w.PlaceTop, &w.AllSides, &w.TxtBorderCutSize, &w.CalculateTrims, &w.TrimPrice}) {
-      EXPECT_FALSE(control->enabled()) << control->name();
+TEST(TrimStep, IsOffUntilTrimsAreAdded) {
+  WizardShop().NewItem([](MainCWizard& w) {
+    Play(w, "go 4");
+    std::vector<const Control*> shown;
+    for (const Control* control : w.controls()) {
+      if (control->shown() && control != &w.AddTrims && control != &w.TrimPriceLabel)
+        shown.push_back(control);
     }
-    EXPECT_TRUE(w.AddTrims.enabled());
-    w.AddTrims.UserSet(true);
-    EXPECT_TRUE(w.PlaceTop.enabled());
-    EXPECT_TRUE(w.BordersPanel.enabled());
-    w.AllSides.UserSet(true);
-    w.AddTrims.UserSet(false);
-    w.AddTrims.UserSet(true);
-    EXPECT_FALSE(w.PlaceTop.enabled()) << "all sides are still chosen";
-    EXPECT_TRUE(w.AllSides.on()) << "values are kept";
-  });
-}
-
-TEST_F(TrimStep, NeedsAPlacement) {
-  At([this](MainCWizard& w) {
-    w.AddTrims.UserSet(true);
-    w.TrimPrice.UserType("6");
-    w.CalculateTrims.UserPress();
-    EXPECT_EQ(host->messages.back(), "Please Select the Placement");
-    EXPECT_EQ(w.TrimCost.text(), "0.00");
-  });
-}
-
-TEST_F(TrimStep, PlacementsExcludeEachOther) {
-  At([](MainCWizard& w) {
-    w.AddTrims.UserSet(true);
-    w.PlaceTop.UserSet(true);
-    w.PlaceTwoSides.UserSet(true);
-    w.PlaceFourSides.UserSet(true);
-    EXPECT_FALSE(w.PlaceTwoSides.on());
-    EXPECT_TRUE(w.PlaceTop.on());
-    w.PlaceTwoSides.UserSet(true);
-    EXPECT_FALSE(w.PlaceFourSides.on());
-    w.AllSides.UserSet(true);
-    for (const TickBox* place : {&w.PlaceTop, &w.PlaceBottom, &w.PlaceTwoSides, &w.PlaceFourSides}) {
-      EXPECT_FALSE(place->on()) << place->name();
-      EXPECT_FALSE(place->enabled()) << place->name();
+    // What stands on the step is what goes out of view with it; panels that aren't in view belong to it as
+    // well.
+    w.StepPanel[4].SetVisible(false);
+    std::vector<const Control*> of_the_step = {&w.FrillPanel, &w.TrimmingPanel, &w.ManualPanel};
+    for (const Control* control : shown) {
+      if (!control->shown() && control != &w.StepPanel[4]) of_the_step.push_back(control);
     }
-    w.AllSides.UserSet(false);
-    EXPECT_TRUE(w.PlaceBottom.enabled());
+    EXPECT_GT(of_the_step.size(), 20U);
+    const auto all_are = [&of_the_step](bool on) {
+      for (const Control* control : of_the_step) EXPECT_EQ(control->enabled(), on) << control->name();
+    };
+    all_are(false);
+    Play(w, "| +AddTrims; tick AddTrims");
+    all_are(true);
+    Play(w, "tick AllSides; untick AddTrims; tick AddTrims | -PlaceTop AllSides=on");
   });
 }
 
-TEST_F(TrimStep, CountsWidthsOrMetres) {
-  At([](MainCWizard& w) {
-    EXPECT_EQ(w.TxtCurtainWidths.text(), "9.11");
-    EXPECT_EQ(w.TrimByWidths.caption(), "Metres");
-    EXPECT_EQ(w.TxtDropCuts.text(), "90");
-    w.AddTrims.UserSet(true);
-    w.TrimByWidths.UserSet(true);
-    EXPECT_EQ(w.TxtCurtainWidths.text(), "4");
-    EXPECT_EQ(w.TrimByWidths.caption(), "Widths");
-  });
+TEST(TrimStep, PlacementsExcludeEachOtherAndOneIsNeeded) {
+  const auto told = AtTrims(R"(
+    tick AddTrims; type TrimPrice 6; press CalculateTrims | TrimCost=0.00; tick PlaceTop
+    tick PlaceTwoSides; tick PlaceFourSides | PlaceTwoSides=off PlaceTop=on
+    tick PlaceTwoSides | PlaceFourSides=off
+    tick AllSides | PlaceTop=off PlaceTwoSides=off -PlaceTop -PlaceBottom -PlaceTwoSides -PlaceFourSides
+    untick AllSides | +PlaceBottom
+  )");
+  EXPECT_EQ(told, std::vector<std::string>{"Please Select the Placement"});
 }
 
-TEST_F(TrimStep, BorderToMetresAndCost) {
-  At([](MainCWizard& w) {
-    w.AddTrims.UserSet(true);
-    w.TrimByWidths.UserSet(true);
-    w.TxtBorderCutSize.UserType("10");
-    w.AllSides.UserSet(true);
-    w.TrimPrice.UserType("6");
-    EXPECT_EQ(w.TrimCost.text(), "0.00") << "typing alone doesn't price it";
-    w.CalculateTrims.UserPress();
-    EXPECT_EQ(w.TxtAmountInches.text(), "170");
-    EXPECT_EQ(w.TxtAmountMetres.text(), "4.30");
-    EXPECT_EQ(w.TrimMetres.text(), "4.30");
-    EXPECT_EQ(w.TrimCost.text(), "25.80");
-    w.TrimPrice.UserType("7");
-    w.TrimPrice.UserEnterKey();
-    EXPECT_EQ(w.TrimCost.text(), "30.10");
-    w.TrimPrice.UserPick(4);
-    EXPECT_EQ(w.TrimPrice.text(), "2.00");
-    EXPECT_EQ(w.TrimCost.text(), "8.60");
-    w.RoundUpTrims.UserPress();
-    EXPECT_EQ(w.TxtAmountMetres.text(), "5");
-    EXPECT_EQ(w.TrimCost.text(), "10") << "without decimals here";
-  });
+TEST(TrimStep, BorderToMetresAndCost) {
+  AtTrims(R"(
+    | TxtCurtainWidths=9.11 TrimByWidths@Metres TxtDropCuts=90; tick AddTrims
+    tick TrimByWidths | TxtCurtainWidths=4 TrimByWidths@Widths; type TxtBorderCutSize 10; tick AllSides
+    type TrimPrice 6 | TrimCost=0.00
+    press CalculateTrims | TxtAmountInches=170 TxtAmountMetres=4.30 TrimMetres=4.30 TrimCost=25.80
+    # The cost follows the price at each key, not only on Enter or a choice.
+    type TrimPrice 7 | TrimCost=30.10; pick TrimPrice 4 | TrimPrice=2.00 TrimCost=8.60
+    # Rounding leaves it without decimals, until it is priced again.
+    press RoundUpTrims | TxtAmountMetres=5 TrimCost=10; key TrimPrice | TrimCost=10.00
+  )");
 }
 
-TEST_F(TrimStep, KindShowsItsPanelAndClearsTheAmounts) {
-  At([](MainCWizard& w) {
-    w.AddTrims.UserSet(true);
-    EXPECT_TRUE(w.BordersPanel.visible());
-    EXPECT_EQ(w.TxtAmountInches.text(), "0");
-    w.TxtAmountMetres.UserType("3");
-    w.TrimKind.UserPick(1);
-    EXPECT_EQ(w.TrimKind.text(), "Trimming");
-    EXPECT_EQ(w.TxtAmountMetres.text(), "0");
-    EXPECT_TRUE(w.TrimmingPanel.visible());
-    EXPECT_FALSE(w.BordersPanel.visible());
-    w.TrimKind.UserType("Manual");
-    EXPECT_TRUE(w.ManualPanel.visible());
-    w.TxtAmountMetres.UserType("3");
-    w.PlaceTop.UserSet(true);
-    w.TrimPrice.UserType("2");
-    w.CalculateTrims.UserPress();
-    EXPECT_EQ(w.TxtAmountInches.text(), "0");
-    EXPECT_EQ(w.TrimMetres.text(), "3") << "only copied and priced";
-    EXPECT_EQ(w.TrimCost.text(), "6.00");
-  });
+TEST(TrimStep, TakesVatOutOfThePriceAndPutsItBack) {
+  AtTrims(R"(
+    | TrimPriceLabel='Price Per Metre Excluding Vat'; tick AddTrims; type TrimMetres 2
+    type TrimPrice 11.75
+    tick TrimPriceExVat | TrimPriceExVat@'Price ex VAT' TrimPrice=10.00 TrimCost=20.00 TxtPriceTarget2=11.75
+    untick TrimPriceExVat | TrimPriceExVat@'Price Inc VAT' TrimPrice=11.75 TrimCost=23.50
+    type TrimPrice dear; tick TrimPriceExVat | TrimPrice=dear TrimCost=0.00
+  )",
+          "17.5");
+  AtTrims("| TrimPriceLabel='Price Per Metre Including Vat'");
 }
 
-TEST_F(TrimStep, TakesVatOutOfThePriceAndPutsItBack) {
-  At(
-      [](MainCWizard& w) {
-        EXPECT_EQ(w.TrimPriceLabel.caption(), "Price Per Metre Excluding Vat");
-        w.AddTrims.UserSet(true);
-        w.TrimMetres.UserType("2");
-        w.TrimPrice.UserType("11.75");
-        w.TrimPriceExVat.UserSet(true);
-        EXPECT_EQ(w.TrimPriceExVat.caption(), "Price ex VAT");
-        EXPECT_EQ(w.TrimPrice.text(), "10.00");
-        EXPECT_EQ(w.TrimCost.text(), "20.00");
-        EXPECT_EQ(w.TxtPriceTarget2.text(), "11.75");
-        w.TrimPriceExVat.UserSet(false);
-        EXPECT_EQ(w.TrimPriceExVat.caption(), "Price Inc VAT");
-        EXPECT_EQ(w.TrimPrice.text(), "11.75");
-        EXPECT_EQ(w.TrimCost.text(), "23.50");
-        w.TrimPrice.UserType("dear");
-        w.TrimPriceExVat.UserSet(true);
-        EXPECT_EQ(w.TrimPrice.text(), "dear");
-        EXPECT_EQ(w.TrimCost.text(), "0.00");
-      },
-      "17.5");
-  At([](MainCWizard& w) { EXPECT_EQ(w.TrimPriceLabel.caption(), "Price Per Metre Including Vat"); });
+TEST(TrimStep, ArrivalAtLabourCalculatesAndRoundsUp) {
+  AtTrims(R"(
+    tick AddTrims; tick TrimByWidths; type TxtBorderCutSize 10; tick AllSides; type TxtAmountMetres 77
+    # An unpriced trim is left alone.
+    go 5 | TxtAmountMetres=77; go 4; type TrimPrice 6; press CalculateTrims; type TxtBorderCutSize 12
+    go 5 | TxtAmountInches=186; go 0; tick AutoRoundup; go 5 | TrimMetres=5 TrimCost=30
+  )");
 }
 
-TEST_F(TrimStep, ArrivalAtLabourCalculatesAndRoundsUp) {
-  At([](MainCWizard& w) {
-    w.AddTrims.UserSet(true);
-    w.TrimByWidths.UserSet(true);
-    w.TxtBorderCutSize.UserType("10");
-    w.AllSides.UserSet(true);
-    w.TxtAmountMetres.UserType("77");
-    GoTo(w, 5);
-    EXPECT_EQ(w.TxtAmountMetres.text(), "77") << "an unpriced trim is left alone";
-    GoTo(w, 4);
-    w.TrimPrice.UserType("6");
-    w.CalculateTrims.UserPress();
-    w.TxtBorderCutSize.UserType("12");
-    GoTo(w, 5);
-    EXPECT_EQ(w.TxtAmountInches.text(), "186");
-    GoTo(w, 0);
-    w.AutoRoundup.UserSet(true);
-    GoTo(w, 5);
-    EXPECT_EQ(w.TrimMetres.text(), "5");
-    EXPECT_EQ(w.TrimCost.text(), "30");
-  });
+TEST(TrimStep, ArrivalAtLabourLeavesTrimsThatAreOff) {
+  const auto told = AtTrims(R"(
+    tick AddTrims; type TrimMetres 3; type TrimPrice 6; untick AddTrims; go 0; tick AutoRoundup
+    go 5 | TrimMetres=3 TrimCost=18.00 TxtAmountMetres=0
+  )");
+  EXPECT_TRUE(told.empty());
 }
 
 }  // namespace
-}  // namespace tarvane
+}  // namespace tarvane::curtain_wizard

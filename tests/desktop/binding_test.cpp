@@ -1,174 +1,131 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLabel>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QListView>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTabBar>
+#include <QSignalSpy>
+#include <QTableView>
 
 #include "desktop/shown_form.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 namespace {
 
 using testing::ElementsAre;
 
-class BindingTest : public testing::Test {
- protected:
-  FakeHost host_;
-  TrialScreen screen_{host_};
-  ShownForm shown_{screen_};
-  Builder& build_ = shown_.build;
-};
+using BindingTest = TrialTest;
 
 TEST_F(BindingTest, TypedTextReachesTheFieldAndARulesTextReachesTheWidget) {
-  screen_.Width.OnTyped([this] { screen_.Length.SetText(screen_.Width.text() + "0"); });
-  shown_.Show({build_.Field(screen_.Width), build_.Field(screen_.Length)});
-  QTest::keyClicks(shown_.WidgetOf<QLineEdit>(screen_.Width), "12");
-  ShownForm::Settle();
-  EXPECT_EQ(screen_.Width.text(), "12");
-  EXPECT_EQ(shown_.WidgetOf<QLineEdit>(screen_.Length)->text(), "120");
-}
-
-TEST_F(BindingTest, ARuleThatRewritesTheFieldItselfIsShown) {
-  screen_.Width.OnTyped([this] { screen_.Width.SetText("7"); });
-  shown_.Show({build_.Field(screen_.Width)});
-  QTest::keyClicks(shown_.WidgetOf<QLineEdit>(screen_.Width), "x");
-  ShownForm::Settle();
-  EXPECT_EQ(shown_.WidgetOf<QLineEdit>(screen_.Width)->text(), "7");
-}
-
-TEST_F(BindingTest, TypingStaysWithinTheFieldsLimit) {
   screen_.Width.SetMaxLength(3);
-  shown_.Show({build_.Field(screen_.Width)});
-  QTest::keyClicks(shown_.WidgetOf<QLineEdit>(screen_.Width), "12345");
-  EXPECT_EQ(screen_.Width.text(), "123");
+  screen_.Width.OnTyped([this] { screen_.Length.SetText(screen_.Width.text() + "0"); });
+  Show({build_.Field(screen_.Width), build_.Field(screen_.Length)});
+  Type("12345");
+  EXPECT_EQ(screen_.Width.text(), "123") << "the field's limit";
+  EXPECT_EQ(Of<QLineEdit>(screen_.Length)->text(), "1230");
+  screen_.Width.OnTyped([this] { screen_.Width.SetText("7"); });
+  Type("\b");
+  EXPECT_EQ(Of<QLineEdit>(screen_.Width)->text(), "7") << "a rule may rewrite the field itself";
 }
 
-TEST_F(BindingTest, MemosKeepTheirLineEnds) {
-  screen_.Notes.SetText("a\r\nb");
-  shown_.Show({build_.Field(screen_.Notes)});
-  auto* edit = shown_.WidgetOf<QPlainTextEdit>(screen_.Notes);
-  EXPECT_EQ(edit->toPlainText(), "a\nb");
-  edit->moveCursor(QTextCursor::End);
-  QTest::keyClick(edit, Qt::Key_Return);
-  QTest::keyClicks(edit, "c");
-  EXPECT_EQ(screen_.Notes.text(), "a\r\nb\r\nc");
-}
-
-TEST_F(BindingTest, ReadOnlyMemoWithALineMarkShowsLinesAndLeavesTheTextAlone) {
-  screen_.Notes.SetReadOnly(true);
-  screen_.Notes.SetText("1 - Style~2 - Size~");
-  shown_.Show({build_.Field(screen_.Notes, {.line_mark = '~'})});
-  EXPECT_EQ(shown_.WidgetOf<QPlainTextEdit>(screen_.Notes)->toPlainText(), "1 - Style\n2 - Size");
-  EXPECT_EQ(screen_.Notes.text(), "1 - Style~2 - Size~");
+// Their text may also hold what an editor would write otherwise.
+TEST_F(BindingTest, MemosKeepTheirLineEndsAndTypeNothingThatNobodyTyped) {
+  int typed = 0;
+  screen_.Notes.OnTyped([&typed] { ++typed; });
+  screen_.Notes.SetText("5\u00a0m\r\nlining");
+  Show({build_.Field(screen_.Notes)});
+  auto* memo = Of<QPlainTextEdit>(screen_.Notes);
+  EXPECT_EQ(memo->toPlainText(), "5 m\nlining");
+  emit memo->textChanged();
+  EXPECT_EQ(typed, 0);
+  memo->moveCursor(QTextCursor::End);
+  Type("s\nc");
+  EXPECT_EQ(screen_.Notes.text(), "5\u00a0m\r\nlinings\r\nc");
 }
 
 TEST_F(BindingTest, DropDownTypesAndPicksApart) {
   screen_.Style.SetEntries({"Goblet", "Pencil"});
-  shown_.Show({build_.Field(screen_.Style), build_.Field(screen_.Width)});
-  auto* combo = shown_.WidgetOf<QComboBox>(screen_.Style);
-  combo->setFocus();
-  ShownForm::Settle();
-  screen_.log.clear();
-  QTest::keyClicks(combo, "Cafe");
+  Show({build_.Field(screen_.Style), build_.Field(screen_.Width)});
+  StartAt(screen_.Style);
+  Type("Cafe");
   EXPECT_EQ(screen_.Style.text(), "Cafe");
   screen_.Style.SetText("Penci");
-  ShownForm::Settle();
-  combo->lineEdit()->end(false);
+  Settle();
+  Of<QComboBox>(screen_.Style)->lineEdit()->end(false);
   screen_.log.clear();
-  QTest::keyClicks(combo, "l");
-  QTest::keyClick(combo, Qt::Key_Tab);
-  ShownForm::Settle();
+  Type("l\t");
   EXPECT_THAT(screen_.log, ElementsAre("typed Pencil", "leave Style", "enter Width"))
       << "leaving a text that an entry has as well is no picking";
-  combo->setFocus();
-  ShownForm::Settle();
-  screen_.log.clear();
-  QTest::keyClick(combo, Qt::Key_Up);
+  StartAt(screen_.Style);
+  Key(Qt::Key_Up);
   EXPECT_THAT(screen_.log, ElementsAre("typed Goblet", "picked Goblet"));
 }
 
 TEST_F(BindingTest, TypingInTheMiddleOfADropDownKeepsTheCursor) {
   screen_.Style.SetEntries({"1.50", "17.5"});
-  shown_.Show({build_.Field(screen_.Style)});
-  auto* combo = shown_.WidgetOf<QComboBox>(screen_.Style);
-  QTest::keyClicks(combo, "1.5");
-  combo->lineEdit()->setCursorPosition(1);
-  QTest::keyClicks(combo, "7");
-  ShownForm::Settle();
-  QTest::keyClick(combo, Qt::Key_Delete);
-  ShownForm::Settle();
-  combo->lineEdit()->setCursorPosition(2);
-  QTest::keyClicks(combo, ".");
-  ShownForm::Settle();
+  Show({build_.Field(screen_.Style)});
+  QLineEdit* edit = Of<QComboBox>(screen_.Style)->lineEdit();
+  Type("1.5");
+  edit->setCursorPosition(1);
+  Type("7");
+  Key(Qt::Key_Delete);
+  edit->setCursorPosition(2);
+  Type(".");
   EXPECT_EQ(screen_.Style.text(), "17.5");
-  EXPECT_EQ(combo->lineEdit()->cursorPosition(), 3) << "also where the text has become an entry's";
+  EXPECT_EQ(edit->cursorPosition(), 3) << "also where the text has become an entry's";
 }
 
 TEST_F(BindingTest, BoxesAndOptionsFollowBothWays) {
   screen_.Inches.Set(true);
-  shown_.Show({build_.Tick(screen_.Lined), build_.Tick(screen_.Inches), build_.Tick(screen_.Metric)});
-  auto* inches = shown_.WidgetOf<QRadioButton>(screen_.Inches);
-  auto* metric = shown_.WidgetOf<QRadioButton>(screen_.Metric);
+  Show({build_.Tick(screen_.Lined), build_.Tick(screen_.Inches), build_.Tick(screen_.Metric)});
+  auto* inches = Of<QRadioButton>(screen_.Inches);
+  auto* metric = Of<QRadioButton>(screen_.Metric);
+  auto* lined = Of<QCheckBox>(screen_.Lined);
   EXPECT_TRUE(inches->isChecked());
   metric->click();
-  ShownForm::Settle();
-  EXPECT_TRUE(screen_.Metric.on());
-  EXPECT_FALSE(screen_.Inches.on());
-  EXPECT_FALSE(inches->isChecked());
+  lined->click();
+  Settle();
+  EXPECT_TRUE(screen_.Metric.on() && screen_.Lined.on());
+  EXPECT_FALSE(screen_.Inches.on() || inches->isChecked());
   screen_.Metric.Set(false);
-  ShownForm::Settle();
-  EXPECT_FALSE(metric->isChecked()) << "a procedure may leave all of them off";
-  shown_.WidgetOf<QCheckBox>(screen_.Lined)->click();
-  EXPECT_TRUE(screen_.Lined.on());
   screen_.Lined.Set(false);
-  ShownForm::Settle();
-  EXPECT_FALSE(shown_.WidgetOf<QCheckBox>(screen_.Lined)->isChecked());
+  Settle();
+  EXPECT_FALSE(metric->isChecked()) << "a procedure may leave all of them off";
+  EXPECT_FALSE(lined->isChecked());
 }
 
 TEST_F(BindingTest, StateCaptionAndPanelFollowTheControl) {
-  screen_.Length.SetPanel(&screen_.Frame);
-  shown_.Show({build_.Fields({{"Length", {{screen_.Length, {.unit = "cm"}}}}}), build_.Press(screen_.Save),
-               build_.Text(screen_.Hint)});
-  auto* length = shown_.WidgetOf<QLineEdit>(screen_.Length);
-  EXPECT_TRUE(length->isVisible());
+  Show({build_.Fields({{"Length", {{screen_.Length, {.unit = "cm"}}}}}), build_.Press(screen_.Save),
+        build_.Text(screen_.Hint)});
+  EXPECT_TRUE(Of(screen_.Length)->isVisible());
+  EXPECT_THAT(Seen(shown_.window), ElementsAre("Length", "cm", "Measure twice", "&Save F2"));
   screen_.Frame.SetVisible(false);
   screen_.Save.SetEnabled(false);
   screen_.Save.SetCaption("&Update");
   screen_.Hint.SetCaption("Cut once");
-  ShownForm::Settle();
-  EXPECT_FALSE(length->isVisible());
-  for (const QLabel* label : shown_.window.findChildren<QLabel*>()) {
-    if (label->text() != "Length" && label->text() != "cm") continue;
-    EXPECT_FALSE(label->isVisible()) << label->text().toStdString();
-  }
-  EXPECT_FALSE(shown_.WidgetOf<QPushButton>(screen_.Save)->isEnabled());
-  EXPECT_EQ(shown_.WidgetOf<QPushButton>(screen_.Save)->text(), "&Update");
-  EXPECT_EQ(shown_.WidgetOf<QLabel>(screen_.Hint)->text(), "Cut once");
+  Settle();
+  EXPECT_FALSE(Of(screen_.Length)->isVisible());
+  EXPECT_THAT(Seen(shown_.window), ElementsAre("Cut once", "&Update"));
+  EXPECT_FALSE(Of(screen_.Save)->isEnabled());
   screen_.Frame.SetVisible(true);
-  ShownForm::Settle();
-  EXPECT_TRUE(length->isVisible());
+  Settle();
+  EXPECT_TRUE(Of(screen_.Length)->isVisible());
 }
 
 TEST_F(BindingTest, ButtonsGoByClickEnterAndTheirFunctionKey) {
-  shown_.Show({build_.Press(screen_.Save)});
-  auto* save = shown_.WidgetOf<QPushButton>(screen_.Save);
-  save->setFocus();
-  ShownForm::Settle();
-  screen_.log.clear();
-  save->click();
-  QTest::keyClick(save, Qt::Key_Return);
-  QTest::keyClick(&shown_.window, Qt::Key_F2);
+  Show({build_.Press(screen_.Save)});
+  StartAt(screen_.Save);
+  Of<QPushButton>(screen_.Save)->click();
+  Key(Qt::Key_Return);
+  Key(Qt::Key_F2);
   EXPECT_THAT(screen_.log, ElementsAre("saved", "saved", "saved"));
   screen_.Save.SetEnabled(false);
-  ShownForm::Settle();
-  QTest::keyClick(&shown_.window, Qt::Key_F2);
+  Settle();
+  Key(Qt::Key_F2);
   EXPECT_EQ(screen_.log.size(), 3U);
 }
 
@@ -176,62 +133,122 @@ TEST_F(BindingTest, ListsTellWhatIsPickedAndOpened) {
   screen_.List.SetEntries({"a", "b", "c"});
   int opened = -2;
   screen_.List.OnOpened([&] { opened = screen_.List.selected(); });
-  shown_.Show({build_.List(screen_.List)});
-  auto* view = shown_.WidgetOf<QListView>(screen_.List);
-  QTest::mouseClick(view->viewport(), Qt::LeftButton, {},
-                    view->visualRect(view->model()->index(1, 0)).center());
-  ShownForm::Settle();
+  Show({build_.List(screen_.List)});
+  auto* view = Of<QListView>(screen_.List);
+  Click(view->viewport(), view->visualRect(view->model()->index(1, 0)).center());
   EXPECT_EQ(screen_.List.selected(), 1);
-  QTest::keyClick(view, Qt::Key_Down);
-  ShownForm::Settle();
+  Key(Qt::Key_Down);
   EXPECT_EQ(screen_.List.selected(), 2);
   QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, QPoint(5, view->viewport()->height() - 3));
-  ShownForm::Settle();
+  Settle();
   EXPECT_EQ(opened, -1) << "below the entries: none of them";
   screen_.List.RemoveEntry(0);
-  ShownForm::Settle();
+  Settle();
   EXPECT_EQ(view->model()->rowCount(), 2);
   EXPECT_FALSE(view->currentIndex().isValid());
 }
 
-TEST_F(BindingTest, TabsAskBeforeTheyMoveAndBuildAPageOnce) {
-  int built = 0;
-  bool allowed = false;
-  screen_.Steps.SetGate([&](int) { return allowed; });
-  shown_.Show({build_.Pages(screen_.Steps, {[&] { return build_.Field(screen_.Width); },
-                                            [&] {
-                                              ++built;
-                                              return build_.Field(screen_.Length);
-                                            }})});
-  auto* bar = shown_.WidgetOf<QTabBar>(screen_.Steps);
-  const auto click_second = [&] {
-    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(1).center());
-    ShownForm::Settle();
-  };
-  click_second();
-  EXPECT_EQ(bar->currentIndex(), 0);
-  EXPECT_EQ(built, 0) << "a page that wasn't looked at costs nothing";
-  allowed = true;
-  click_second();
-  EXPECT_EQ(screen_.Steps.selected(), 1);
-  EXPECT_EQ(bar->currentIndex(), 1);
-  EXPECT_TRUE(shown_.WidgetOf<QLineEdit>(screen_.Length)->isVisible());
-  QTest::keyClick(bar, Qt::Key_Left);
-  ShownForm::Settle();
-  screen_.Steps.Select(1);
-  ShownForm::Settle();
-  EXPECT_EQ(bar->currentIndex(), 1);
-  EXPECT_EQ(built, 1);
+TEST(FunctionKeyTest, IsNamedAtTheCaptionsEnd) {
+  for (const auto& [caption, key] : {std::pair("&Payment F2", 2),
+                                     {"Print F12", 12},
+                                     {"Print F13", 0},
+                                     {"Fax F", 0},
+                                     {"F2 Pay", 0},
+                                     {"", 0}}) {
+    EXPECT_EQ(FunctionKeyOf(caption), key) << caption;
+  }
 }
 
-TEST(FunctionKeyTest, IsNamedAtTheCaptionsEnd) {
-  EXPECT_EQ(FunctionKeyOf("&Payment F2"), 2);
-  EXPECT_EQ(FunctionKeyOf("Print F12"), 12);
-  EXPECT_EQ(FunctionKeyOf("Print F13"), 0);
-  EXPECT_EQ(FunctionKeyOf("Fax F"), 0);
-  EXPECT_EQ(FunctionKeyOf("F2 Payment"), 0);
-  EXPECT_EQ(FunctionKeyOf(""), 0);
+// Many rows that count who looks at them.
+class CountingGrid : public HeldGrid {
+ public:
+  explicit CountingGrid(Screen* screen) : HeldGrid(screen, "Counting", {"1", "2", "3", "4"}) {
+    SetRows(std::vector<std::vector<std::string>>(kRows, {"a", "b", "c", "d"}));
+  }
+  std::string Cell(std::int64_t row, int column) const override {
+    if (row > 0) ++reads;
+    return HeldGrid::Cell(row, column);
+  }
+  static constexpr int kRows = 100'000;
+  mutable int reads = 0;
+};
+
+class TableTest : public TrialTest {
+ protected:
+  QTableView* ShowRows(const TableLook& look = {}) {
+    Show({build_.Table(screen_.Rows, look), build_.Press(screen_.Save)});
+    return Of<QTableView>(screen_.Rows);
+  }
+};
+
+TEST_F(TableTest, ReadsOnlyTheRowsInView) {
+  CountingGrid grid(&screen_);
+  ShownForm shown(screen_);
+  shown.window.resize(600, 400);
+  shown.Show({shown.build.Table(grid)});
+  const auto* table = shown.WidgetOf<QTableView>(grid);
+  const int rows_in_view = table->viewport()->height() / table->verticalHeader()->defaultSectionSize() + 2;
+  for (const bool at_end : {false, true}) {
+    if (at_end) Key(Qt::Key_End);
+    shown.window.grab();
+    EXPECT_EQ(grid.selected_row(), at_end ? CountingGrid::kRows : 1);
+    EXPECT_GT(grid.reads, 0);
+    EXPECT_LE(grid.reads, rows_in_view * 4 * 4) << "a few looks at each cell in view, none at others";
+    grid.reads = 0;
+  }
+}
+
+TEST_F(TableTest, SelectsAndOpensRows) {
+  screen_.Rows.SetRows({{"1", "2.50"}, {"2", "3.75"}, {"3", "1.00"}});
+  const auto* table = ShowRows();
+  EXPECT_EQ(table->currentIndex().row(), 0);
+  StartAt(screen_.Rows);
+  const auto at = [&](int row) { return table->visualRect(table->model()->index(row, 1)).center(); };
+  Click(table->viewport(), at(0));
+  Key(Qt::Key_Down);
+  Key(Qt::Key_Return);
+  EXPECT_THAT(screen_.log, ElementsAre("row 1", "row 2", "row 2", "open 2"))
+      << "a click on the row that is selected counts as well";
+  QTest::mouseDClick(table->viewport(), Qt::LeftButton, {}, at(2));
+  Settle();
+  EXPECT_EQ(screen_.log.back(), "open 3");
+  screen_.Rows.Select(1);
+  const QSignalSpy resets(table->model(), &QAbstractItemModel::modelReset);
+  for (int i = 3; i < 1000; ++i) screen_.Rows.AddRow({std::to_string(i + 1), "1.00"});
+  Settle();
+  EXPECT_EQ(table->currentIndex().row(), 0);
+  EXPECT_EQ(table->model()->rowCount(), 1000);
+  EXPECT_EQ(resets.count(), 1) << "many changes are drawn once";
+}
+
+TEST_F(TableTest, InsertAndDeletePressTheirButtonsAndKeepTheFocus) {
+  screen_.Rows.SetRows({{"1", "2.50"}});
+  TableLook look;
+  look.insert = &screen_.Later;
+  look.remove = &screen_.Save;
+  ShowRows(look);
+  const auto press = [&](Qt::Key key) {
+    StartAt(screen_.Rows);
+    Key(key);
+    return screen_.log;
+  };
+  EXPECT_THAT(press(Qt::Key_Delete), testing::Contains("saved"));
+  EXPECT_TRUE(IsAt(screen_.Rows));
+  EXPECT_EQ(screen_.focus(), &screen_.Rows);
+  EXPECT_THAT(press(Qt::Key_Insert), testing::IsEmpty()) << "what is disabled stays undone";
+  screen_.Save.SetVisible(false);
+  EXPECT_THAT(press(Qt::Key_Delete), testing::IsEmpty());
+}
+
+TEST_F(TableTest, ShowsTheColumnsOfItsLookInTheirOrder) {
+  screen_.Rows.SetHeadings({"Line", "Price", "Infomation", "Description"});
+  const auto* table = ShowRows({{{"Description", "What", 20}, {"Price", "", 8, true}}, "Description"});
+  EXPECT_EQ(table->horizontalHeader()->visualIndex(3), 0);
+  EXPECT_EQ(table->horizontalHeader()->visualIndex(1), 1);
+  EXPECT_TRUE(table->isColumnHidden(0) && table->isColumnHidden(2));
+  EXPECT_EQ(table->model()->headerData(3, Qt::Horizontal).toString(), "What");
+  EXPECT_TRUE(table->model()->headerData(1, Qt::Horizontal, Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
 }
 
 }  // namespace
-}  // namespace tarvane
+}  // namespace tarvane::desktop

@@ -1,17 +1,19 @@
 #pragma once
 
-#include <QApplication>
-#include <QTest>
-#include <memory>
+#include <gtest/gtest.h>
+
+#include <array>
 #include <string>
 #include <vector>
 
 #include "desktop/builders.h"
 #include "desktop/qt_host.h"
 #include "desktop/windows.h"
+#include "desktop/worker.h"
+#include "screen/control_family.h"
 #include "support/fake_host.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 
 // A screen with one control of each kind, and a log of the rules that ran.
 class TrialScreen : public Screen {
@@ -29,18 +31,24 @@ class TrialScreen : public Screen {
     Lined.OnClicked([this] { log.push_back("lined"); });
     Rows.OnRowSelected([this] { log.push_back("row " + std::to_string(Rows.selected_row())); });
     Rows.OnRowOpened([this] { log.push_back("open " + std::to_string(Rows.selected_row())); });
+    for (Label& name : Names) {
+      name.OnClicked([this, &name] { log.push_back("name " + std::to_string(name.index())); });
+    }
     List.OnPicked([this] { log.push_back("list " + std::to_string(List.selected())); });
   }
 
   Panel Frame{this, "Frame"};
   TextField Width{this, "Width"};
-  TextField Length{this, "Length"};
+  TextField Length{&Frame, "Length"};
   TextField Notes{this, "Notes", "", -1, TextField::Kind::kMemo};
   DropDownList Style{this, "Style"};
   TickBox Lined{this, "Lined", "&Lined"};
   OptionButton Inches{this, "Inches", "Inches", 1};
   OptionButton Metric{this, "Metric", "Metric", 1};
   Button Save{this, "Save", "&Save F2"};
+  Button Later{this, "Later", "Later", kNotBuilt};
+  Button Never{this, "Never", "Never", kNotBuilt};
+  std::array<Label, 3> Names = MakeFamily<3>([this](int i) { return Label(this, "Names", i, "Name"); });
   Label Hint{this, "Hint", -1, "Measure twice"};
   ListBox List{this, "List"};
   HeldGrid Rows{this, "Rows", {"Line", "Price"}};
@@ -57,14 +65,9 @@ class ShownForm {
   void Show(const Pieces& pieces) {
     window.setLayout(build.Column(pieces).layout);
     window.show();
-    QApplication::setActiveWindow(&window);
-    Settle();
+    ToFront(&window);
   }
-  static void Settle() {
-    QCoreApplication::sendPostedEvents();
-    QCoreApplication::processEvents();
-  }
-  template <typename Widget>
+  template <typename Widget = QWidget>
   Widget* WidgetOf(const Control& control) const {
     return qobject_cast<Widget*>(form.WidgetOf(control));
   }
@@ -74,4 +77,24 @@ class ShownForm {
   Builder build;
 };
 
-}  // namespace tarvane
+class TrialTest : public testing::Test {
+ protected:
+  void Show(const Pieces& pieces) { shown_.Show(pieces); }
+  template <typename Widget = QWidget>
+  Widget* Of(const Control& control) const {
+    return shown_.WidgetOf<Widget>(control);
+  }
+  // Takes the keyboard there; the log begins afterwards.
+  void StartAt(const Control& control) {
+    Focus(Of(control));
+    screen_.log.clear();
+  }
+  bool IsAt(const Control& control) const { return QApplication::focusWidget() == Of(control); }
+
+  FakeHost host_;
+  TrialScreen screen_{host_};
+  ShownForm shown_{screen_};
+  Builder& build_ = shown_.build;
+};
+
+}  // namespace tarvane::desktop

@@ -6,14 +6,17 @@
 #include <QPainter>
 #include <QPicture>
 #include <cmath>
+#include <functional>
 #include <limits>
+#include <vector>
 
 #include "curtain_wizard/wizard.h"
-#include "desktop/trial_host.h"
-#include "job/job_screen.h"
+#include "desktop/shop_test.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 namespace {
+
+using Sketch = curtain_wizard::WindowSketch;
 
 TEST(WindowDrawingTest, TheCurtainStandsToScaleWithinItsRoom) {
   struct Case {
@@ -57,51 +60,84 @@ int DrawnBytes(const DrawnWindow& window) {
 }
 
 TEST(WindowDrawingTest, DrawsABoundedNumberOfLinesWhateverTheMeasuresAre) {
-  constexpr double kValues[] = {0, 1e-300, 0.001, 1, 54, 1e6, 1e300};
-  const WindowSketch usual{.track = 100,
-                           .drop = 80,
-                           .fabric_width = 54,
-                           .fullness = 2,
-                           .widths = 4,
-                           .cut_length = 90,
-                           .hem = 9,
-                           .pattern_repeat = 10};
+  const Sketch usual{100, 80, 54, 2, 4, 90, 9, 10, {true, true, true, true, 5}, 2, true, true};
   ASSERT_GT(DrawnBytes({.sketch = usual}), 2000);
-  for (double WindowSketch::*measure :
-       {&WindowSketch::track, &WindowSketch::drop, &WindowSketch::fabric_width, &WindowSketch::fullness,
-        &WindowSketch::widths, &WindowSketch::cut_length, &WindowSketch::hem,
-        &WindowSketch::pattern_repeat}) {
-    for (const double value : kValues) {
-      for (const Heading heading :
-           {Heading::kGathered, Heading::kGoblet, Heading::kBoxPleat, Heading::kFlat}) {
-        WindowSketch sketch = usual;
-        sketch.*measure = value;
+  double Sketch::*const kMeasures[] = {&Sketch::track,    &Sketch::drop,          &Sketch::fabric_width,
+                                       &Sketch::fullness, &Sketch::widths,        &Sketch::cut_length,
+                                       &Sketch::hem,      &Sketch::pattern_repeat};
+  constexpr Heading kHeadings[] = {Heading::kGathered, Heading::kGoblet, Heading::kBoxPleat, Heading::kFlat};
+  for (const double value : {0.0, 1e-300, 0.001, 1.0, 54.0, 1e6, 1e300}) {
+    Sketch all = usual;
+    all.trim.depth = value;
+    for (double Sketch::*measure : kMeasures) {
+      all.*measure = value;
+      Sketch sketch = usual;
+      sketch.*measure = value;
+      for (const Heading heading : kHeadings) {
         EXPECT_LT(DrawnBytes({.sketch = sketch, .heading = heading}), 400'000) << value;
       }
     }
+    EXPECT_LT(DrawnBytes({.sketch = all}), 400'000) << value;
   }
-  for (const double value : kValues) {
-    EXPECT_LT(DrawnBytes({.sketch = {value, value, value, value, value, value, value, value}}), 400'000)
-        << value;
+}
+
+// Seen, and said to those who don't see it.
+TEST(WindowDrawingTest, ShowsWhatGoesWithTheCurtain) {
+  const std::pair<std::function<void(Sketch&)>, const char*> cases[] = {
+      {[](Sketch& s) { s.trim = {.top = true, .depth = 5}; }, "5 in border at top"},
+      {[](Sketch& s) { s.trim = {.bottom = true}; }, "trim at bottom"},
+      {[](Sketch& s) { s.trim = {.sides = true}; }, "trim at sides"},
+      {[](Sketch& s) { s.trim = {.sides = true, .middle = true}; }, "trim at four sides"},
+      {[](Sketch& s) { s.tie_backs = 1; }, "1 tie back"},
+      {[](Sketch& s) { s.tie_backs = 2; }, "tie backs"},
+      {[](Sketch& s) { s.lined = true; }, "lined"},
+      {[](Sketch& s) { s.interlined = true; }, "interlined"},
+      {[](Sketch& s) { s.outdated = true; }, "From other measurements: calculate again"},
+  };
+  const Sketch plain{
+      .track = 100, .drop = 80, .fabric_width = 54, .fullness = 2, .widths = 4, .cut_length = 90};
+  // Without the notes below.
+  const auto picture = [](WindowDrawing& drawing) {
+    const int notes = static_cast<int>(drawing.fontMetrics().height() * 4.4);
+    return drawing.grab(QRect(0, 0, drawing.width(), drawing.height() - notes)).toImage();
+  };
+  WindowDrawing drawing;
+  drawing.resize(700, 500);
+  std::vector<QImage> seen;
+  for (const auto& [add, said] : cases) {
+    drawing.Show({.sketch = plain});
+    const QString before = drawing.accessibleDescription();
+    if (seen.empty()) seen.push_back(picture(drawing));
+    Sketch sketch = plain;
+    add(sketch);
+    drawing.Show({.sketch = sketch});
+    EXPECT_EQ(drawing.accessibleDescription(), before + ", " + said);
+    seen.push_back(picture(drawing));
+    for (std::size_t i = 0; i + 1 < seen.size(); ++i) EXPECT_NE(seen[i], seen.back()) << said << " " << i;
   }
 }
 
 TEST(WindowDrawingTest, ReadsCentimetresAsTheyAreTyped) {
   TrialHost host;
-  JobScreen job(host, "no-such-folder");
-  MainCWizard wizard(host, job);
+  Shop shop("no-such-folder");
+  job::JobScreen job(host, shop);
+  curtain_wizard::MainCWizard wizard(host, shop, job);
   wizard.TrackWidthIns.SetEnabled(false);
   wizard.TrackWidthIns.SetText("98.43");
-  wizard.TrackWidthCm.SetText("250");
-  EXPECT_NEAR(ReadWindow(wizard).sketch.track * 2.54, 250, 1e-9)
-      << "the worker's figure, not the rounded inches";
-  wizard.TrackWidthCm.UserType("300");
-  EXPECT_NEAR(ReadWindow(wizard).sketch.track * 2.54, 300, 1e-9) << "before the inches follow";
-  wizard.TrackWidthCm.UserType("");
-  EXPECT_EQ(ReadWindow(wizard).sketch.track, 0);
-  wizard.TrackWidthCm.SetText("2500");
-  EXPECT_NEAR(ReadWindow(wizard).sketch.track * 2.54, 250, 1e-9) << "millimetres";
+  // The worker's figure, not the rounded inches nor those that follow later; the last one is in millimetres.
+  for (const auto& [typed, cm] : {std::pair("250", 250), {"300", 300}, {"", 0}, {"2500", 250}}) {
+    wizard.TrackWidthCm.UserType(typed);
+    EXPECT_NEAR(ReadWindow(wizard).sketch.track * 2.54, cm, 1e-9) << typed;
+  }
   EXPECT_EQ(ReadWindow(wizard).unit, LengthUnit::kCentimetres);
+  wizard.FinishedLengthIns.SetText("80");
+  wizard.FabricWidthIns.SetText("54");
+  wizard.CmdCalculate.Press();
+  EXPECT_FALSE(ReadWindow(wizard).sketch.outdated);
+  wizard.TrackWidthCm.UserType("310");
+  EXPECT_TRUE(ReadWindow(wizard).sketch.outdated) << "before the inches follow";
+  wizard.TrackWidthCm.UserType("");
+  EXPECT_FALSE(ReadWindow(wizard).sketch.outdated) << "nothing is said of a window without a track";
   wizard.InputInInches.Set(true);
   EXPECT_EQ(ReadWindow(wizard).unit, LengthUnit::kInches);
   wizard.CboCurtainStyle.SetText("Goblet Pleat");
@@ -109,4 +145,4 @@ TEST(WindowDrawingTest, ReadsCentimetresAsTheyAreTyped) {
 }
 
 }  // namespace
-}  // namespace tarvane
+}  // namespace tarvane::desktop

@@ -5,7 +5,7 @@
 #include "support/fake_host.h"
 #include "support/shop_folder.h"
 
-namespace tarvane {
+namespace tarvane::job {
 namespace {
 
 using ::testing::ElementsAre;
@@ -21,7 +21,7 @@ class JobScreenTest : public testing::Test {
   JobScreen& Open(const std::vector<RowValues>& jobs) {
     folder_.AddSettings();
     for (const RowValues& job : jobs) folder_.AddJob(job);
-    job_.emplace(host_, folder_.path());
+    job_.emplace(host_, shop_);
     job_->cboVAT.SetText("0");
     job_->OpenData();
     return *job_;
@@ -30,6 +30,7 @@ class JobScreenTest : public testing::Test {
   void Activate() { job_->RunAsMain(); }
 
   ShopFolder folder_;
+  Shop shop_{folder_.path()};
   FakeHost host_;
   std::optional<JobScreen> job_;
 };
@@ -154,7 +155,7 @@ TEST_F(JobScreenTest, LettersInThePaidAmountStopTheTotals) {
   ASSERT_EQ(host_.messages.size(), 2u);
   EXPECT_THAT(host_.messages[0], HasSubstr("entering say -100.00 as a credit amount."));
   EXPECT_THAT(host_.messages[1], HasSubstr("abc"));
-  EXPECT_EQ(job.Balance.text(), "0.00");
+  EXPECT_EQ(job.Balance.text(), "10.00") << "what stood before, no interim value";
   EXPECT_EQ(job.PrePaid.text(), "abc");
 
   Activate();
@@ -171,7 +172,7 @@ TEST_F(JobScreenTest, ActivationStartsFromNoTax) {
   EXPECT_EQ(job.cboVAT.text(), "0");
   EXPECT_EQ(job.PrePaid.text(), "0.00");
   EXPECT_EQ(job.Total.text(), "100.00");
-  EXPECT_EQ(job.RecordBar.caption(), "Record: 1 of 1");
+  EXPECT_EQ(job.Records.Caption.caption(), "Record: 1 of 1");
 }
 
 TEST_F(JobScreenTest, ActivationTakesSettingsThatOthersChanged) {
@@ -189,6 +190,52 @@ TEST_F(JobScreenTest, ActivationTakesSettingsThatOthersChanged) {
   EXPECT_EQ(job.TxtLastOrderNo.text(), "101");
 }
 
+TEST_F(JobScreenTest, TheFirstCompanyCountsAtOnce) {
+  folder_.AddJob({});
+  job_.emplace(host_, shop_);
+  job_->OpenData();
+  EXPECT_FALSE(job_->Data2.HasRow());
+  folder_.AddSettings();
+  Activate();
+  EXPECT_EQ(job_->TxtLastOrderNo.text(), "100");
+}
+
+TEST_F(JobScreenTest, ADeletionNeverWritesFromAGridThatWasNotRead) {
+  JobScreen& job = Open({{{"1T(0)", ItemLine("1", "a~") + ItemLine("2", "b~")}}});
+  job.RoomItemGrid[0].Clear();
+  job.PrePaid.SetText("0");
+  job.RoomItems[0].SetText(ItemLine("3", "c~") + ItemLine("4", "d~"));
+  host_.answers = {Answer::kNo};
+  job.CmdDeleteFromRoom.UserPress();
+  EXPECT_EQ(host_.questions.size(), 1u);
+  EXPECT_EQ(job.RoomItems[0].text(), ItemLine("3", "c~") + ItemLine("4", "d~"));
+}
+
+TEST_F(JobScreenTest, AGridOfTheJobBeforeIsNotTakenForThisOne) {
+  const std::string items = ItemLine("1", "a~") + ItemLine("2", "b~");
+  JobScreen& job = Open({{{"1T(0)", items}}, {{"1T(0)", items}}});
+  job.TxtRoomNum.SetText("none");
+  job.Data1.rows().MoveNext();
+  job.TxtRoomNum.SetText("1");
+  EXPECT_EQ(job.RoomItemGrid[0].RowCount(), 0);
+  host_.answers = {Answer::kNo};
+  job.CmdDeleteFromRoom.UserPress();
+  EXPECT_EQ(job.RoomItems[0].text(), items);
+}
+
+TEST_F(JobScreenTest, AFaultInTheTotalsStopsNothingElse) {
+  JobScreen& job = Open({{{"1T(1)", ItemLine("5", "a~")}, {"Text13", "9.00"}, {"5T(4)", "later"}}});
+  job.SSTab1.UserSelect(1);
+  EXPECT_EQ(job.RoomItemGrid[1].RowCount(), 1);
+  EXPECT_EQ(job.RoomTotal[1].text(), "5.00") << "not the 0.00 of an interim step";
+  EXPECT_EQ(job.Text1.text(), "a~") << "the selected item";
+  host_.messages.clear();
+  Activate();
+  EXPECT_THAT(host_.messages, ElementsAre(HasSubstr("later"))) << "told once";
+  job.SSTab1.UserSelect(2);
+  EXPECT_EQ(job.Text1.text(), "");
+}
+
 TEST_F(JobScreenTest, AnotherJobIsReadAnew) {
   JobScreen& job =
       Open({{{"Name", "Ann"}, {"1T(0)", ItemLine("1")}, {"1T(1)", ItemLine("2")}, {"Text13", "2.00"}},
@@ -197,7 +244,7 @@ TEST_F(JobScreenTest, AnotherJobIsReadAnew) {
   job.SSTab1.UserSelect(1);
   job.Data1.rows().MoveNext();
   EXPECT_EQ(job.HistoryHeading.caption(), " Payments History for Bea");
-  EXPECT_EQ(job.RecordBar.caption(), "Record: 2 of 2");
+  EXPECT_EQ(job.Records.Caption.caption(), "Record: 2 of 2");
   EXPECT_EQ(job.RoomItemGrid[0].RowCount(), 0) << "no grid shows the items of another job";
   EXPECT_EQ(job.RoomItemGrid[1].RowCount(), 0);
   EXPECT_EQ(job.SingleItemGrid.RowCount(), 1);
@@ -303,7 +350,7 @@ TEST_F(JobScreenTest, TheSummaryPanelLeadsToTheRooms) {
 TEST_F(JobScreenTest, AnEmptyTableLeavesFieldsBlank) {
   JobScreen& job = Open({});
   Activate();
-  EXPECT_EQ(job.RecordBar.caption(), "");
+  EXPECT_EQ(job.Records.Caption.caption(), "");
   EXPECT_EQ(job.GTotal.text(), "");
   EXPECT_EQ(job.RoomTotal[0].text(), "");
   job.SSTab1.UserSelect(1);
@@ -335,4 +382,4 @@ TEST_F(JobScreenTest, OddTextsComeThrough) {
 }
 
 }  // namespace
-}  // namespace tarvane
+}  // namespace tarvane::job

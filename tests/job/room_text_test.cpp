@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-namespace tarvane {
+namespace tarvane::job {
 namespace {
 
 using ::testing::ElementsAre;
@@ -127,4 +127,4 @@ TEST(RoomText, LongLinesOfNothingAreReadInNoTime) {
 }
 
 }  // namespace
-}  // namespace tarvane
+}  // namespace tarvane::job

@@ -3,20 +3,13 @@
 #include <gmock/gmock.h>
 
 #include <chrono>
-#include <fstream>
-#include <sstream>
 #include <thread>
 
 #include "pdf/pdf_test_support.h"
-#include "text_number/fault.h"
+#include "text/fault.h"
 
 namespace tarvane::pdf {
 namespace {
-
-constexpr std::string_view kStandardFonts[] = {
-    "Courier",          "Courier-Bold",          "Courier-BoldOblique", "Courier-Oblique", "Helvetica",
-    "Helvetica-Bold",   "Helvetica-BoldOblique", "Helvetica-Oblique",   "Symbol",          "Times-Bold",
-    "Times-BoldItalic", "Times-Italic",          "Times-Roman",         "ZapfDingbats"};
 
 std::string MetricFile(int width_of_a) {
   return "StartFontMetrics 4.1\nC 65 ; WX 999 ; before the start\nStartCharMetrics 3\nC 65 ; WX " +
@@ -24,31 +17,32 @@ std::string MetricFile(int width_of_a) {
          " ; N A ;\nC 66 ; WX 20.9 ; N B ;\nC -1 ; WX 7 ; N Aacute ;\nC 67 ; WX 30 ;\n";
 }
 
-// A second reader of the files, by another road: words of a stream.
-std::vector<int> WidthsOfFile(const std::string& path) {
-  std::vector<int> widths(256, 0);
-  std::ifstream file(path);
-  for (std::string line; std::getline(file, line);) {
-    std::istringstream words(line);
-    std::string c, semicolon, wx;
-    int code = 0;
-    int width = 0;
-    if (words >> c >> code >> semicolon >> wx >> width && c == "C" && wx == "WX" && code > 0)
-      widths[code] = width;
-  }
-  return widths;
-}
-
-TEST(FontMetrics, EveryStandardFontIsThereWithTheWidthsOfItsFile) {
+// The sum of all widths of each standard font and the widths of some characters, by codes and by names.
+TEST(FontMetrics, StandardFonts) {
   FontFolder fonts;
   fonts.Load(FontsFolder());
-  EXPECT_THAT(fonts.names(), testing::UnorderedElementsAreArray(kStandardFonts));
-  for (const std::string_view name : kStandardFonts) {
-    const std::vector<int> expected = WidthsOfFile(FontsFolder() + "/" + std::string(name) + ".afm");
-    EXPECT_GT(expected[97], 0) << name;
-    const WidthTable& widths = fonts.Widths(name);
-    for (int code = 1; code < 256; ++code) ASSERT_EQ(widths.At(code), expected[code]) << name << ' ' << code;
+  std::string all;
+  for (const bool by_name : {false, true}) {
+    fonts.MeasureByName(by_name);
+    for (const std::string& name : fonts.names()) {
+      const WidthTable& widths = fonts.Widths(name);
+      int64_t sum = 0;
+      for (int code = 1; code < 256; ++code) sum += widths.At(code);
+      all += name + " " + std::to_string(sum);
+      for (const char* text : {"m", "'", "`", "€", "é", "\u00A0", "\u00AD"})
+        all.append(" ").append(std::to_string(widths.SumOfText(text)));
+      all += "\r\n";
+    }
   }
+  ExpectGolden("widths.txt", all);
+  const std::string file = MetricFile(10) + "C -1 ; WX 40 ; N Euro ;\nEndCharMetrics\nC 68 ; WX 50 ; N D ;\n";
+  const WidthTable table = ReadWidthsByName(file);
+  EXPECT_THAT(
+      (std::vector<int64_t>{table.At('A'), table.At('B'), table.At(0xC1), table.At(0x80), table.At('D')}),
+      testing::ElementsAre(10, 20, 7, 40, 0));
+  EXPECT_EQ(fonts.names()[fonts.NumberOf("TimesItalic")], "Times-Italic") << "but for hyphens";
+  EXPECT_EQ(fonts.names()[fonts.NumberOf("TimesRoman")], "Times-Roman");
+  EXPECT_EQ(fonts.Widths("TimesItalic").At('m'), 722);
 }
 
 TEST(FontMetrics, ReadsTheEncodedRangeAlone) {
@@ -102,39 +96,30 @@ TEST(FontMetrics, FolderTakesWhatHasTheEndingInItsPath) {
   EXPECT_THROW(fonts.Widths(""), Fault);
 }
 
-TEST(FontMetrics, NamesWithoutTheirHyphenAreFound) {
-  FontFolder fonts;
-  fonts.Load(FontsFolder());
-  EXPECT_EQ(fonts.names()[fonts.NumberOf("TimesItalic")], "Times-Italic");
-  EXPECT_EQ(fonts.names()[fonts.NumberOf("TimesRoman")], "Times-Roman");
-  EXPECT_EQ(fonts.Widths("TimesItalic").At('m'), 722);
-}
-
 TEST(FontMetrics, AChangedFileIsReadAgain) {
-  const auto later = [] { std::this_thread::sleep_for(std::chrono::milliseconds(2)); };
   ScratchFolder folder;
-  WriteBytes(folder / "F.afm", MetricFile(100));
+  const std::string path = folder / "F.afm";
   FontFolder fonts;
+  const auto expect = [&](int width) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    EXPECT_EQ(fonts.Widths("F").At(65), width);
+  };
+  WriteBytes(path, MetricFile(100));
   fonts.Load(folder / "");
-  EXPECT_EQ(fonts.Widths("F").At(65), 100);
+  expect(100);
   // Same size, and perhaps the same time: the clocks of file systems are coarse.
-  WriteBytes(folder / "F.afm", MetricFile(200));
-  later();
-  EXPECT_EQ(fonts.Widths("F").At(65), 200);
+  WriteBytes(path, MetricFile(200));
+  expect(200);
   WriteBytes(folder / "new", MetricFile(300));
-  std::filesystem::rename(folder / "new", folder / "F.afm");
-  later();
-  EXPECT_EQ(fonts.Widths("F").At(65), 300);
-  std::filesystem::last_write_time(folder / "F.afm",
+  std::filesystem::rename(folder / "new", path);
+  expect(300);
+  std::filesystem::last_write_time(path,
                                    std::filesystem::file_time_type::clock::now() - std::chrono::hours(9));
-  later();
-  EXPECT_EQ(fonts.Widths("F").At(65), 300);
-  WriteBytes(folder / "F.afm", MetricFile(400));
-  later();
-  EXPECT_EQ(fonts.Widths("F").At(65), 400);
-  std::filesystem::remove(folder / "F.afm");
-  later();
-  EXPECT_THROW(fonts.Widths("F"), Fault);
+  expect(300);
+  WriteBytes(path, MetricFile(400));
+  expect(400);
+  std::filesystem::remove(path);
+  EXPECT_THROW(expect(0), Fault);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <atomic>
 #include <cstdio>
 #include <fstream>
@@ -38,7 +39,7 @@ void WriteBytes(const std::string& path, const std::string& bytes) {
 }
 
 Surroundings FixedSurroundings(MessageSink* messages) {
-  return {messages, [] { return CalendarTime{2024, 2, 29, 13, 5, 9}; }, {}, ""};
+  return {messages, [] { return DateTime{MakeDay(2024, 2, 29), 13, 5, 9}; }, {}, ""};
 }
 
 RunResult RunCommand(const std::string& command) {
@@ -57,10 +58,49 @@ RunResult RunCommand(const std::string& command) {
   return result;
 }
 
-std::string Lines(const std::vector<std::string>& lines) {
-  std::string out;
-  for (const std::string& line : lines) out += line + "\r\n";
-  return out;
+// What some builds of mupdf say of themselves, whatever the file.
+constexpr char kBuildRemark[] = "warning: ICC support is not available\n";
+
+void ExpectSound(const std::string& path) {
+  const RunResult check = RunCommand("qpdf --check " + path);
+  EXPECT_EQ(check.status, 0) << check.output;
+  EXPECT_EQ(check.output.find("WARNING"), std::string::npos) << check.output;
+  // Of these two only complaints reach the output.
+  for (const std::string& reader :
+       {"pdftotext " + path + " /dev/null", "mutool draw -q -F trace " + path + " >/dev/null"}) {
+    const RunResult result = RunCommand("{ " + reader + "; }");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_TRUE(result.output.empty() || result.output == kBuildRemark) << reader << result.output;
+  }
+}
+
+void ExpectGolden(const std::string& name, const std::string& bytes) {
+  const std::string kept = FileBytes(TARVANE_TEST_DATA "/golden/" + name);
+  if (bytes == kept) return;
+  const auto differs = std::mismatch(kept.begin(), kept.end(), bytes.begin(), bytes.end()).first;
+  const auto at = static_cast<size_t>(differs - kept.begin());
+  const size_t begin = at == 0 ? 0 : kept.rfind('\n', at - 1) + 1;
+  const auto line = [begin](const std::string& text) {
+    return text.substr(begin, text.find('\n', begin) - begin);
+  };
+  const std::string now = testing::TempDir() + name;
+  WriteBytes(now, bytes);
+  ADD_FAILURE() << "golden/" << name << " differs in line " << 1 + std::count(kept.begin(), differs, '\n')
+                << "\n  kept: " << line(kept) << "\n  now:  " << line(bytes)
+                << "\n  the whole of it: " << now;
+}
+
+std::string Written(const Steps& set, const Steps& draw) {
+  ScratchFolder folder;
+  tqrPDF document(FixedSurroundings());
+  document.PDFSetUnit(kPoint);
+  document.PDFFileName(folder / "written.pdf");
+  set(document);
+  document.PDFBeginDoc();
+  draw(document);
+  document.PDFEndDoc();
+  EXPECT_TRUE(document.PDFWritten());
+  return FileBytes(folder / "written.pdf");
 }
 
 }  // namespace tarvane::pdf

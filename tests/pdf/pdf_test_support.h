@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -42,26 +43,14 @@ struct RunResult {
 };
 // Runs a command line. A program that isn't there fails the test.
 RunResult RunCommand(const std::string& command);
+// Fails where qpdf, poppler or mupdf has anything to say against the file.
+void ExpectSound(const std::string& path);
 
-// What `draw` puts on the first page of a document in points, between its stream's words, with the fonts
-// loaded.
-template <typename Draw>
-std::string Drawn(Draw draw, MessageSink* messages = nullptr) {
-  ScratchFolder folder;
-  tqrPDF document(FixedSurroundings(messages));
-  document.PDFSetUnit(kPoint);
-  document.PDFFileName(folder / "drawn.pdf");
-  document.PDFPathConfiguration(FontsFolder());
-  document.PDFSetMargins(0, 0, 0, 0);
-  document.PDFBeginDoc();
-  draw(document);
-  document.PDFEndDoc();
-  const std::string bytes = FileBytes(folder / "drawn.pdf");
-  const size_t begin = bytes.find("stream\r\n") + 8;
-  return bytes.substr(begin, bytes.find("endstream") - begin);
-}
+// Compares with golden/NAME and tells the first line that differs.
+void ExpectGolden(const std::string& name, const std::string& bytes);
 
-// The lines of a text, each ended by CR LF.
-std::string Lines(const std::vector<std::string>& lines);
+// The bytes of a file in points, with the settings of `set` and the drawing of `draw`.
+using Steps = std::function<void(tqrPDF&)>;
+std::string Written(const Steps& set, const Steps& draw);
 
 }  // namespace tarvane::pdf

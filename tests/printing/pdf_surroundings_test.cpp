@@ -5,12 +5,12 @@
 #include "store/data_files.h"
 #include "support/fake_host.h"
 
-namespace tarvane {
+namespace tarvane::printing {
 namespace {
 
 TEST(PdfSurroundings, TheHostTellsItsMessagesSetsItsClockAndShowsTheFile) {
   FakeHost host;
-  host.now = {2026, 5, 4, 9, 30, 15};
+  host.now = {MakeDay(2026, 5, 4), 9, 30, 15};
   const auto file = std::filesystem::temp_directory_path() / "tarvane-surroundings-test.pdf";
   PdfSurroundings surroundings(host, TARVANE_DATA_DIR);
   {
@@ -28,5 +28,18 @@ TEST(PdfSurroundings, TheHostTellsItsMessagesSetsItsClockAndShowsTheFile) {
   std::filesystem::remove(file);
 }
 
+TEST(PdfSurroundings, AFileThatCannotBeWrittenIsToldAndNotShown) {
+  FakeHost host;
+  PdfSurroundings surroundings(host, TARVANE_DATA_DIR);
+  pdf::tqrPDF document(surroundings.For());
+  document.PDFFileName("/dev/full");
+  document.PDFView(true);
+  document.PDFBeginDoc();
+  document.PDFEndDoc();
+  EXPECT_FALSE(document.PDFWritten());
+  EXPECT_TRUE(host.launched.empty());
+  EXPECT_EQ(host.messages, std::vector<std::string>{"The PDF file couldn't be written: /dev/full"});
+}
+
 }  // namespace
-}  // namespace tarvane
+}  // namespace tarvane::printing

@@ -45,7 +45,7 @@ class Parent : public Screen {
   std::vector<std::string> trace;
   Child child{host()};
   Panel Step{this, "Step"};
-  TextField Inches{this, "Inches"};
+  TextField Inches{&Step, "Inches"};
   TextField Other{this, "Other"};
   Button Open{this, "Open", "&Open"};
   Button Fail{this, "Fail", "Fail"};
@@ -150,7 +150,6 @@ TEST(Controls, TicksAndOptions) {
 TEST(Controls, AControlInAHiddenPanelIsNotShown) {
   FakeHost host;
   Parent screen(host);
-  screen.Inches.SetPanel(&screen.Step);
   screen.Step.SetVisible(false);
   EXPECT_FALSE(screen.Inches.shown());
   EXPECT_TRUE(screen.Inches.visible());

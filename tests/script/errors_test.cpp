@@ -1,13 +1,15 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <fstream>
+#include <array>
+#include <iomanip>
+#include <sstream>
 
 #include "script/script_error.h"
 #include "script/script_options.h"
 #include "script/workshop.h"
 
-namespace tarvane {
+namespace tarvane::script {
 namespace {
 
 using testing::HasSubstr;
@@ -108,25 +110,18 @@ TEST(Errors, APageThatIsNotInFrontHidesNothingFromUse) {
 }
 
 TEST(Errors, OfQuestions) {
-  const Wrong cases[] = {
-      {"type Measure ask\npress Command1[1]",
-       "no answer is waiting for the question \"Sure?\" \"Line one\\r\\nLine \\\"two\\\"\" on Form1"},
-      {"answer ok\ntype Measure ask\npress Command1[1]",
-       "the question \"Sure?\" \"Line one\\r\\nLine \\\"two\\\"\" can't be answered \"ok\" (it takes yes, "
-       "no)"},
-      {"cancel\ntype Measure ask\npress Command1[1]",
-       "the question \"Sure?\" \"Line one\\r\\nLine \\\"two\\\"\" can't be answered \"cancel\" (it takes "
-       "yes, no)"},
-      {"type Measure input\npress Command1[1]",
-       "no answer is waiting for the input box \"User Input\" \"List Entry:\" on Form1"},
-      {"type Measure file\npress Command1[1]",
-       "no answer is waiting for the file choice \"Open Link\" \"Open Link\" on Form1"},
-  };
-  for (const Wrong& one : cases) {
-    const Played played = Play(one.line + "\nshow Name");
+  const std::string question = R"(question "Sure?" "Line one\r\nLine \"two\"")";
+  const std::string none = "no answer is waiting for the ", cant = "the " + question + " can't be answered ";
+  const std::array<std::string, 3> cases[] = {
+      {"", "ask", none + question},
+      {"answer ok", "ask", cant + "\"ok\" (it takes yes, no)"},
+      {"cancel", "ask", cant + "\"cancel\" (it takes yes, no)"},
+      {"", "input", none + "input box \"User Input\" \"List Entry:\""},
+      {"", "file", none + "file choice \"Open Link\" \"Open Link\""}};
+  for (const auto& [before, act, told] : cases) {
+    const Played played = Play(before + "\ntype Measure " + act + "\npress Command1[1]\nshow Name");
     EXPECT_EQ(played.status, 2);
-    const std::string line = std::to_string(1 + std::ranges::count(one.line, '\n'));
-    EXPECT_EQ(played.err, "line " + line + ": " + one.told + "\n");
+    EXPECT_EQ(played.err, "line 3: " + told + (told.starts_with(none) ? " on Form1\n" : "\n"));
   }
 }
 
@@ -188,36 +183,81 @@ TEST(Expectations, Hold) {
   EXPECT_EQ(played.err, "");
 }
 
-TEST(Options, ArriveAndAreChecked) {
-  const std::string folder = testing::TempDir();
-  const ScriptOptions all = ParseScriptOptions(
-      std::vector<std::string>{"--now", "2026-05-04T09:30:59", "--seed", "4294967295", folder, "a.story"});
-  EXPECT_EQ(LongDate(*all.settings.now), "04/05/2026");
-  EXPECT_EQ(all.settings.now->hour * 10000 + all.settings.now->minute * 100 + all.settings.now->second,
-            93059);
-  EXPECT_EQ(all.settings.seed, 4294967295U);
-  EXPECT_EQ(all.folder, folder);
-  EXPECT_EQ(all.script, "a.story");
-  const ScriptOptions bare = ParseScriptOptions(std::vector<std::string>{folder});
-  EXPECT_FALSE(bare.script || bare.settings.now || bare.settings.seed);
-
-  const std::vector<std::string> wrong[] = {
-      {},
-      {folder + "/none"},
-      {folder, "a", "b"},
-      {"--speed", folder},
-      {folder, "--now"},
-      {"--now", "2026-02-29T09:30:00", folder},
-      {"--now", "2026-05-04T24:00:00", folder},
-      {"--now", "2026-05-04 09:30:00", folder},
-      {"--now", "2026-05-04T09:30", folder},
-      {"--seed", "-1", folder},
-      {"--seed", "4294967296", folder},
-      {"--seed", "", folder},
+// What can't be read is told as the program tells any fault; the script goes on.
+TEST(Faults, AreMessagesAndFailedExpectations) {
+  const Played played = Play(R"(expect Torn 1 1 Ann
+expect Torn 2 1 "B b"
+expect-said damaged
+show Torn Name
+expect-rows Torn 3
+press Command1[0]
+show Form1:Torn
+expect Note first)");
+  EXPECT_EQ(played.status, 1);
+  EXPECT_EQ(played.err, "line 2: expected an answer to expect Torn 2 1 \"B b\", got a fault\n");
+  const std::string fault = "message \"Tarvane\" \"The file is damaged.\"\n";
+  const auto shown = [&fault](const std::string& name) {
+    return name + "[0] = \"Line\" \"Name\"\n" + name + "[1] = \"1\" \"Ann\"\n" + fault;
   };
-  for (const auto& arguments : wrong)
-    EXPECT_THROW(ParseScriptOptions(arguments), ScriptError) << arguments.size();
+  EXPECT_EQ(played.out, "screen Form1 \"Workshop \\\"A\\\"\"\n" + fault + shown("Torn") +
+                            "Name = \"Smith\"\nscreen FrmAnnexe \"Annexe\"\n" + shown("Form1:Torn"));
+}
+
+TEST(Faults, OfTheProgramItselfEndTheScript) {
+  std::istringstream script("show Name");
+  std::ostringstream out;
+  std::ostringstream err;
+  const auto fails = [](Host&) { throw std::runtime_error("out of something"); };
+  EXPECT_EQ(RunScript({}, script, true, out, err, fails), kScriptWrong);
+  EXPECT_EQ(err.str(), "line 0: the program failed: out of something\n");
+}
+
+// A script that breaks off for a fault of the disk isn't taken for a whole one.
+TEST(Faults, OfReadingTheScript) {
+  class Torn : public std::stringbuf {
+   public:
+    using std::stringbuf::stringbuf;
+    int_type underflow() override { throw std::runtime_error("basic_filebuf::underflow"); }
+  };
+  Torn torn("show Name\n", std::ios::in);
+  std::istream script(&torn);
+  const Played played = Play(script, {}, true);
+  EXPECT_EQ(played.status, kScriptWrong);
+  EXPECT_EQ(played.err, "line 1: the script can't be read any further\n");
+  EXPECT_THAT(played.out, testing::EndsWith("Name = \"Smith\"\n"));
+}
+
+// FOLDER is one that is there.
+ScriptOptions Parsed(const std::string& line) {
+  std::vector<std::string> words;
+  std::istringstream rest(line);
+  for (std::string word; rest >> std::quoted(word);) {
+    words.push_back(word.starts_with("FOLDER") ? testing::TempDir() + word.substr(6) : word);
+  }
+  return ParseScriptOptions(words);
+}
+
+TEST(Options, ArriveAndAreChecked) {
+  const ScriptOptions all = Parsed("--now 2026-05-04T09:30:59 --seed 4294967295 FOLDER a.story");
+  const DateTime now = all.settings.now.value();
+  EXPECT_EQ(LongDate(now.day), "04/05/2026");
+  EXPECT_EQ(now.hour * 10000 + now.minute * 100 + now.second, 93059);
+  EXPECT_EQ(all.settings.seed, 4294967295U);
+  EXPECT_EQ(all.folder, testing::TempDir());
+  EXPECT_EQ(all.script, "a.story");
+  const ScriptOptions bare = Parsed("FOLDER");
+  EXPECT_FALSE(bare.script || bare.settings.now || bare.settings.seed);
+  const ScriptOptions ended = Parsed("--seed 1 -- FOLDER --now");
+  EXPECT_EQ(ended.folder, testing::TempDir());
+  EXPECT_EQ(ended.script, "--now");
+  for (const char* wrong : {"", "FOLDER/none", "FOLDER a b", "--speed FOLDER", "FOLDER --now",
+                            "--seed -1 FOLDER", "--seed 4294967296 FOLDER", "--seed \"\" FOLDER",
+                            "--now 2026-02-29T09:30:00 FOLDER", "--now 2026-05-04T24:00:00 FOLDER",
+                            "--now \"2026-05-04 09:30:00\" FOLDER", "--now 2026-05-04T09:30 FOLDER"}) {
+    EXPECT_THROW(Parsed(wrong), ScriptError) << wrong;
+  }
+  EXPECT_THROW(Parsed(std::string(300, 'x')), ScriptError);
 }
 
 }  // namespace
-}  // namespace tarvane
+}  // namespace tarvane::script

@@ -13,7 +13,7 @@
 #include "store/row_set.h"
 #include "store/table_definition.h"
 
-namespace tarvane {
+namespace tarvane::script {
 namespace {
 
 // A table's grid may stand for a million jobs: a script sees its heading and the first 200.
@@ -40,7 +40,8 @@ TEST(Show, OfATableEndsAfter200Rows) {
     TableGrid grid(&screen, "Letters");
     rows.Open(database, table.name);
     grid.SetSource(&rows);
-    const std::vector<std::string> lines = Shown("Form1:Letters", grid);
+    std::vector<std::string> lines;
+    TellControl("Form1:Letters", grid, [&lines](std::string_view line) { lines.emplace_back(line); });
     ASSERT_EQ(lines.size(), 201U);
     EXPECT_EQ(lines[0], "Form1:Letters[0] = \"\" \"ID\" \"Name\"");
     EXPECT_THAT(lines[1], testing::EndsWith(" \"1\" \"n1\""));
@@ -50,4 +51,4 @@ TEST(Show, OfATableEndsAfter200Rows) {
 }
 
 }  // namespace
-}  // namespace tarvane
+}  // namespace tarvane::script

@@ -9,7 +9,7 @@
 #include "screen/screen.h"
 #include "script/run_script.h"
 
-namespace tarvane {
+namespace tarvane::script {
 
 // A second screen, with an array that has a current member.
 class Annexe : public Screen {
@@ -26,6 +26,18 @@ class Annexe : public Screen {
     CmdDone.OnClicked([this] { Close(); });
   }
   int CurrentMember(std::string_view) const override { return 1; }
+};
+
+// A grid whose second row can't be read.
+class DamagedGrid : public HeldGrid {
+ public:
+  DamagedGrid(Home home, std::string name) : HeldGrid(home, std::move(name), {"Line", "Name"}) {
+    SetRows({{"1", "Ann"}, {"2", ""}, {"3", "Cem"}});
+  }
+  std::string Cell(std::int64_t row, int column) const override {
+    if (row == 2) throw Fault("The file is damaged.");
+    return HeldGrid::Cell(row, column);
+  }
 };
 
 // A main screen with a control of every kind.
@@ -45,10 +57,9 @@ class Workshop : public Screen {
     Items.AddRow({"2", "3.00", "back\\slash"});
     Off.SetEnabled(false);
     SaveHidden.SetVisible(false);
-    Boxed.SetPanel(&Frame);
     Secret.SetNeverShown();
     Frame.SetVisible(false);
-    Day.Set({2026, 5, 4});
+    Day.Set(MakeDay(2026, 5, 4));
   }
 
   TextField Measure{this, "Measure", "10"};
@@ -62,12 +73,13 @@ class Workshop : public Screen {
   ListBox Rooms{this, "Rooms"};
   TabStrip Tabs{this, "Tabs", {" Customer", "Rooms "}};
   HeldGrid Items{this, "Items", {"Line", "Price", "Text"}};
+  DamagedGrid Torn{this, "Torn"};
   Calendar Day{this, "Day"};
   TickBox Round{this, "AutoRoundup", "Round &Up"};
   OptionButton Inches{this, "UnitIns", "Inches", 1};
   OptionButton Cms{this, "UnitCms", "Cms", 1};
   Panel Frame{this, "Frame"};
-  TextField Boxed{this, "Boxed"};
+  TextField Boxed{&Frame, "Boxed"};
   Label Plain{this, "Label8", 0, "Messages"};
   Label Clicked{this, "Label10", 0, "Room 1"};
   Button SaveHidden{this, "CmdSaveOld", "&Save"};
@@ -120,7 +132,7 @@ inline void Workshop::Act(const std::string& what) {
     host().Beep();
   } else if (what == "clock") {
     const DateTime now = host().Now();
-    Log.LoadText(LongDate(now) + " " + std::to_string(now.hour) + ":" + std::to_string(now.second));
+    Log.LoadText(LongDate(now.day) + " " + std::to_string(now.hour) + ":" + std::to_string(now.second));
   } else if (what == "dice") {
     std::string digits;
     for (int i = 0; i < 20; ++i) digits += std::to_string(host().RandomDigit());
@@ -138,18 +150,18 @@ struct Played {
   std::string err;
 };
 
-inline Played Play(const std::string& text, const ScriptSettings& settings = {}, bool to_the_end = true) {
-  std::istringstream script(text);
-  std::ostringstream out;
-  std::ostringstream err;
-  Played played;
-  played.status = RunScript(settings, script, to_the_end, out, err, [](Host& host) {
+inline Played Play(std::istream& script, const ScriptSettings& settings, bool to_the_end) {
+  std::ostringstream out, err;
+  const int status = RunScript(settings, script, to_the_end, out, err, [](Host& host) {
     Workshop workshop(host);
     workshop.RunAsMain();
   });
-  played.out = out.str();
-  played.err = err.str();
-  return played;
+  return {status, out.str(), err.str()};
 }
 
-}  // namespace tarvane
+inline Played Play(const std::string& text, const ScriptSettings& settings = {}, bool to_the_end = true) {
+  std::istringstream script(text);
+  return Play(script, settings, to_the_end);
+}
+
+}  // namespace tarvane::script

@@ -13,7 +13,7 @@
 #include "setup/command_line.h"
 #include "store/data_files.h"
 
-namespace tarvane {
+namespace tarvane::setup {
 
 // A temporary folder to lay program folders down in, and tarvane-setup run on them.
 class SetupTest : public testing::Test {
@@ -58,4 +58,4 @@ class SetupTest : public testing::Test {
   std::string err_;
 };
 
-}  // namespace tarvane
+}  // namespace tarvane::setup

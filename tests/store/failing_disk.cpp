@@ -1,22 +1,24 @@
 #include "store/failing_disk.h"
 
+#include <cerrno>
 #include <thread>
 
 namespace tarvane {
 
 namespace {
 
-// Stands before the platform's own file in the memory that SQLite gives.
-struct ShimFile {
-  sqlite3_file base;
+// Lies behind the platform's own file in the memory that SQLite gives.
+struct Shim {
   FailingDisk* disk;
-  sqlite3_file* real() { return reinterpret_cast<sqlite3_file*>(this + 1); }
+  const sqlite3_io_methods* real;
+  sqlite3_io_methods methods;  // the real ones, but for those below
 };
 
-ShimFile* Shim(sqlite3_file* file) { return reinterpret_cast<ShimFile*>(file); }
-sqlite3_file* Real(sqlite3_file* file) { return Shim(file)->real(); }
-const sqlite3_io_methods* Methods(sqlite3_file* file) { return Real(file)->pMethods; }
 sqlite3_vfs* Platform() { return sqlite3_vfs_find(nullptr); }
+FailingDisk* DiskOf(sqlite3_vfs* vfs) { return static_cast<FailingDisk*>(vfs->pAppData); }
+Shim* ShimOf(sqlite3_file* file) {
+  return reinterpret_cast<Shim*>(reinterpret_cast<char*>(file) + Platform()->szOsFile);
+}
 
 template <typename Step>
 int Guarded(FailingDisk* disk, int error_code, Step step) {
@@ -25,50 +27,49 @@ int Guarded(FailingDisk* disk, int error_code, Step step) {
 }
 
 int Write(sqlite3_file* file, const void* data, int size, sqlite3_int64 at) {
-  return Guarded(Shim(file)->disk, SQLITE_IOERR_WRITE,
-                 [&] { return Methods(file)->xWrite(Real(file), data, size, at); });
+  return Guarded(ShimOf(file)->disk, SQLITE_IOERR_WRITE,
+                 [&] { return ShimOf(file)->real->xWrite(file, data, size, at); });
 }
 
 int Truncate(sqlite3_file* file, sqlite3_int64 size) {
-  return Guarded(Shim(file)->disk, SQLITE_IOERR_TRUNCATE,
-                 [&] { return Methods(file)->xTruncate(Real(file), size); });
+  return Guarded(ShimOf(file)->disk, SQLITE_IOERR_TRUNCATE,
+                 [&] { return ShimOf(file)->real->xTruncate(file, size); });
 }
 
 int Sync(sqlite3_file* file, int flags) {
-  return Guarded(Shim(file)->disk, SQLITE_IOERR_FSYNC,
-                 [&] { return Methods(file)->xSync(Real(file), flags); });
+  return Guarded(ShimOf(file)->disk, SQLITE_IOERR_FSYNC,
+                 [&] { return ShimOf(file)->real->xSync(file, flags); });
 }
 
-int Close(sqlite3_file* file) { return Methods(file)->xClose(Real(file)); }
 int Read(sqlite3_file* file, void* data, int size, sqlite3_int64 at) {
-  return Methods(file)->xRead(Real(file), data, size, at);
+  if (ShimOf(file)->disk->reads_fail()) return SQLITE_IOERR_CORRUPTFS;  // what an EIO becomes
+  return ShimOf(file)->real->xRead(file, data, size, at);
 }
-int FileSize(sqlite3_file* file, sqlite3_int64* size) { return Methods(file)->xFileSize(Real(file), size); }
-int Lock(sqlite3_file* file, int kind) { return Methods(file)->xLock(Real(file), kind); }
-int Unlock(sqlite3_file* file, int kind) { return Methods(file)->xUnlock(Real(file), kind); }
-int CheckReservedLock(sqlite3_file* file, int* locked) {
-  return Methods(file)->xCheckReservedLock(Real(file), locked);
-}
-int FileControl(sqlite3_file* file, int what, void* value) {
-  return Methods(file)->xFileControl(Real(file), what, value);
-}
-int SectorSize(sqlite3_file* file) { return Methods(file)->xSectorSize(Real(file)); }
-int Traits(sqlite3_file* file) { return Methods(file)->xDeviceCharacteristics(Real(file)); }
 
-const sqlite3_io_methods kMethods = {
-    1,           Close,      Read,   Write,   Truncate, Sync,    FileSize, Lock,    Unlock, CheckReservedLock,
-    FileControl, SectorSize, Traits, nullptr, nullptr,  nullptr, nullptr,  nullptr, nullptr};
+int FileControl(sqlite3_file* file, int what, void* value) {
+  if (what != SQLITE_FCNTL_LAST_ERRNO || !ShimOf(file)->disk->reads_fail())
+    return ShimOf(file)->real->xFileControl(file, what, value);
+  *static_cast<int*>(value) = EIO;
+  return SQLITE_OK;
+}
 
 int Open(sqlite3_vfs* vfs, sqlite3_filename name, sqlite3_file* file, int flags, int* out_flags) {
-  Shim(file)->disk = static_cast<FailingDisk*>(vfs->pAppData);
-  file->pMethods = nullptr;
-  const int code = Platform()->xOpen(Platform(), name, Real(file), flags, out_flags);
-  if (code == SQLITE_OK) file->pMethods = &kMethods;
-  return code;
+  const int code = Platform()->xOpen(Platform(), name, file, flags, out_flags);
+  if (code != SQLITE_OK) return code;
+  Shim* shim = ShimOf(file);
+  *shim = {DiskOf(vfs), file->pMethods, *file->pMethods};
+  shim->methods.iVersion = 1;  // no shared memory, no mapped files: they would go past the shim
+  shim->methods.xWrite = Write;
+  shim->methods.xTruncate = Truncate;
+  shim->methods.xSync = Sync;
+  shim->methods.xRead = Read;
+  shim->methods.xFileControl = FileControl;
+  file->pMethods = &shim->methods;
+  return SQLITE_OK;
 }
 
 int Delete(sqlite3_vfs* vfs, const char* name, int sync_folder) {
-  return Guarded(static_cast<FailingDisk*>(vfs->pAppData), SQLITE_IOERR_DELETE,
+  return Guarded(DiskOf(vfs), SQLITE_IOERR_DELETE,
                  [&] { return Platform()->xDelete(Platform(), name, sync_folder); });
 }
 
@@ -76,7 +77,7 @@ int Delete(sqlite3_vfs* vfs, const char* name, int sync_folder) {
 
 FailingDisk::FailingDisk() : vfs_(*Platform()) {
   vfs_.iVersion = 1;
-  vfs_.szOsFile = static_cast<int>(sizeof(ShimFile)) + Platform()->szOsFile;
+  vfs_.szOsFile = Platform()->szOsFile + static_cast<int>(sizeof(Shim));
   vfs_.pNext = nullptr;
   vfs_.zName = name_.c_str();
   vfs_.pAppData = this;
@@ -86,14 +87,6 @@ FailingDisk::FailingDisk() : vfs_(*Platform()) {
 }
 
 FailingDisk::~FailingDisk() { sqlite3_vfs_unregister(&vfs_); }
-
-void FailingDisk::Fail(int first, Failure failure, bool lasting) {
-  first_ = first;
-  failure_ = failure;
-  lasting_ = lasting;
-  changes_ = 0;
-  failed_ = false;
-}
 
 int FailingDisk::Change(int error_code) {
   if (wait_.count() > 0) std::this_thread::sleep_for(wait_);

@@ -11,10 +11,8 @@ namespace tarvane {
 // truncate, delete) from a chosen one on, or makes it slow.
 class FailingDisk {
  public:
-  enum class Failure {
-    kError,
-    kFull
-  };  // an input/output error of every kind, or a full disk on writes alone
+  // An input/output error of every kind, or a full disk on writes alone.
+  enum class Failure { kError, kFull };
 
   FailingDisk();
   ~FailingDisk();
@@ -24,9 +22,19 @@ class FailingDisk {
   const std::string& name() const { return name_; }  // to be given to Database
 
   // The `first`th change from now on (from 1) fails, and all later ones if `lasting`. 0: none fails.
-  void Fail(int first, Failure failure, bool lasting);
+  void Fail(int first, Failure failure, bool lasting) {
+    first_ = first;
+    failure_ = failure;
+    lasting_ = lasting;
+    changes_ = 0;
+    failed_ = false;
+  }
+  void Heal() { Fail(0, Failure::kError, false); }
   // Waits before each change, so that a process can be caught between two of them.
   void Slow(std::chrono::microseconds wait) { wait_ = wait; }
+  // All reads of databases fail from now on, or work again; the system's word for it is an error of the disk.
+  void FailReads(bool fail) { reads_fail_ = fail; }
+  bool reads_fail() const { return reads_fail_; }
   bool failed() const { return failed_; }  // since the last Fail
 
   // SQLite's code for one more change; SQLITE_OK where it may go ahead.
@@ -40,6 +48,7 @@ class FailingDisk {
   Failure failure_ = Failure::kError;
   bool lasting_ = false;
   bool failed_ = false;
+  bool reads_fail_ = false;
   std::chrono::microseconds wait_{0};
 };
 

@@ -3,165 +3,158 @@
 
 #include <gmock/gmock.h>
 
-#include "store/connection.h"
+#include "store/plain_sqlite.h"
 #include "store/shop_file.h"
 
 namespace tarvane {
 namespace {
 
 using testing::HasSubstr;
+using Failure = FailingDisk::Failure;
+namespace fs = std::filesystem;
 
 class FailingDiskTest : public ShopFile {
  protected:
-  FailingDiskTest() {
+  FailingDiskTest() : before_(folder_.path() / "before.mdb") {
     AddJobs(std::vector<std::string>(20, "old"));
     Database database(file_);
-    RowSet admin;
-    admin.Open(database, "Admin");
-    admin.AddNew();
-    admin.SetValue("LastOrderNo", "20");
-    admin.Update();
-    before_ = folder_.path() / "before.mdb";
-    std::filesystem::copy_file(file_, before_);
+    RowSet admin = Opened(database, "Admin");
+    Add(admin, {{"LastOrderNo", "20"}});
+    fs::copy_file(file_, before_);
   }
 
-  void BringBack() const {
-    std::filesystem::remove(file_.string() + "-journal");
-    std::filesystem::copy_file(before_, file_, std::filesystem::copy_options::overwrite_existing);
+  // The file as it was first, on a disk that works until it is told otherwise.
+  Database BroughtBack() {
+    disk_.Heal();
+    fs::remove(file_.string() + "-journal");
+    fs::copy_file(before_, file_, fs::copy_options::overwrite_existing);
+    return Database(file_, Database::Mode::kExisting, disk_.name());
   }
 
   // Everything in the file, as one text.
-  static std::string StateOf(const std::filesystem::path& file) {
-    Connection connection(file, Database::Mode::kExisting, "");
-    Statement check = connection.Prepare("PRAGMA integrity_check");
-    check.Step();
-    std::string state(check.Text(0));
-    for (const char* table : {"TblBrindel", "Admin"}) {
-      Statement rows = connection.Prepare("SELECT * FROM " + std::string(table) + " ORDER BY rowid");
-      while (rows.Step()) {
-        for (int i = 0; i < rows.ColumnCount(); ++i) state.append("|").append(rows.Text(i));
-      }
-    }
-    return state;
+  static std::string StateOf(const fs::path& file) {
+    return PlainSqlite(file).Run(
+        "PRAGMA integrity_check; SELECT * FROM TblBrindel ORDER BY RefNo; SELECT * FROM Admin");
   }
 
-  using Save = std::function<void(Database&)>;
+  enum Kind { kChange, kAdd, kTogether };
 
-  // Fails each change of `save` in turn. What a save has told is held against what stands in the file.
-  void FailInTurn(const Save& save, FailingDisk::Failure failure, bool lasting) {
-    const std::string old_state = StateOf(file_);
-    {
-      Database database(file_);
-      save(database);
-    }
-    const std::string new_state = StateOf(file_);
-    ASSERT_TRUE(old_state != new_state);
-    ASSERT_EQ(new_state.substr(0, 2), "ok");
-    FailingDisk disk;
-    int told = 0;
-    for (int change = 1;; ++change) {
-      BringBack();
-      disk.Fail(0, failure, lasting);
-      std::string fault;
-      {
-        Database database(file_, Database::Mode::kExisting, disk.name());
-        disk.Fail(change, failure, lasting);
-        fault = FaultOf([&] { save(database); });
-      }
-      const bool failed = disk.failed();
-      disk.Fail(0, failure, lasting);
-      const std::string stands = StateOf(file_);
-      const std::string place =
-          "change " + std::to_string(change) + (lasting ? " and all later: " : ": ") + fault;
-      ASSERT_TRUE(stands == old_state || stands == new_state) << place;
-      if (fault.empty()) {
-        EXPECT_TRUE(stands == new_state) << place;
-      } else {
-        ++told;
-        EXPECT_THAT(fault, HasSubstr(file_.string())) << place;
-        EXPECT_THAT(fault, HasSubstr(failure == FailingDisk::Failure::kFull ? "disk is full"
-                                                                            : "the disk reported an error"));
-        // Only a save that says so may turn out to be made, and none says so on a full disk.
-        const bool unsure = fault.find("may or may not") != std::string::npos;
-        EXPECT_TRUE(unsure || stands == old_state) << place;
-        EXPECT_FALSE(unsure && failure == FailingDisk::Failure::kFull) << place;
-      }
-      if (!failed) break;
-      ASSERT_LT(change, 500);
-    }
-    EXPECT_GT(told, 0);
-    BringBack();
-  }
+  struct Saved {
+    Kind kind;
+    Failure failure;
+    Database database;
+    RowSet jobs = Opened(database);
+    std::string town = "";
+    std::string fault = "";
 
-  void FailInEveryWay(const Save& save) {
-    for (const auto failure : {FailingDisk::Failure::kError, FailingDisk::Failure::kFull}) {
-      for (const bool lasting : {false, true}) FailInTurn(save, failure, lasting);
+    bool IsUnsure() const { return fault.find("may or may not") != std::string::npos; }
+
+    void Make() {
+      const Values values = {{"Name", "new"}, {"1T(11)", "new"}, {"1T(5)", std::string(20000, 'x')}};
+      if (kind == kChange) return Save(jobs, values);
+      if (kind == kAdd) return Add(jobs, values);
+      Database::Transaction transaction(database);
+      Add(jobs, values);
+      town = "in the same transaction";
+      Save(jobs, {{"Town", town}});
+      RowSet admin = Opened(database, "Admin");
+      Save(admin, {{"LastOrderNo", "21"}});
+      transaction.Commit();
+    }
+  };
+
+  // Saves in each way, and fails each change in turn, until none fails any more.
+  void FailEachChange(const std::function<void(std::unique_ptr<Saved>)>& check) {
+    for (const Kind kind : {kChange, kAdd, kTogether}) {
+      for (const Failure failure : {Failure::kError, Failure::kFull}) {
+        for (const bool lasting : {false, true}) {
+          bool failed = true;
+          for (int change = 1; failed && !HasFailure(); ++change) {
+            auto saved = std::make_unique<Saved>(kind, failure, BroughtBack());
+            disk_.Fail(change, failure, lasting);
+            saved->fault = FaultOf([&] { saved->Make(); });
+            failed = disk_.failed();
+            disk_.Heal();
+            SCOPED_TRACE(std::to_string(change) + " of kind " + std::to_string(kind) + ": " + saved->fault);
+            check(std::move(saved));
+            ASSERT_LT(change, 500);
+          }
+        }
+      }
     }
   }
 
-  std::filesystem::path before_;
+  FailingDisk disk_;
+  fs::path before_;
 };
 
-void SetJob(RowSet& jobs, const std::string& text) {
-  for (const char* column : {"Name", "1T(0)", "1T(11)", "G-Total", "Text10"}) jobs.SetValue(column, text);
-}
-
-TEST_F(FailingDiskTest, SavingAChangedJob) {
-  FailInEveryWay([](Database& database) {
-    RowSet jobs;
-    jobs.Open(database, "TblBrindel");
-    jobs.MoveTo(7);
-    SetJob(jobs, "new");
-    jobs.SetValue("1T(5)", std::string(20000, 'x'));
-    jobs.Update();
-  });
-}
-
-TEST_F(FailingDiskTest, SavingANewJob) {
-  FailInEveryWay([](Database& database) {
-    RowSet jobs;
-    jobs.Open(database, "TblBrindel");
-    jobs.AddNew();
-    SetJob(jobs, "new");
-    jobs.Update();
-  });
-}
-
-TEST_F(FailingDiskTest, SavingWhatBelongsTogether) {
-  FailInEveryWay([](Database& database) {
-    Database::Transaction transaction(database);
-    RowSet admin;
-    admin.Open(database, "Admin");
-    admin.SetValue("LastOrderNo", "21");
-    admin.Update();
-    RowSet jobs;
-    jobs.Open(database, "TblBrindel");
-    jobs.AddNew();
-    jobs.SetValue("Ext2", "21");
-    jobs.Update();
-    transaction.Commit();
-  });
-}
-
-TEST_F(FailingDiskTest, WhatWaitsIsKeptAndCanBeSavedAgain) {
-  FailingDisk disk;
-  for (int change = 1; change < 8; ++change) {
-    BringBack();
-    disk.Fail(0, FailingDisk::Failure::kFull, false);
-    Database database(file_, Database::Mode::kExisting, disk.name());
-    RowSet jobs;
-    jobs.Open(database, "TblBrindel");
-    SetJob(jobs, "kept");
-    disk.Fail(change, FailingDisk::Failure::kFull, false);
-    const std::string fault = FaultOf([&] { jobs.Update(); });
-    if (fault.empty()) continue;
-    EXPECT_TRUE(jobs.IsEditing());
-    EXPECT_EQ(jobs.Value("Name"), "kept");
-    jobs.Update();
-    EXPECT_FALSE(jobs.IsEditing());
-    jobs.Resync();
-    EXPECT_EQ(jobs.Value("1T(11)"), "kept");
+TEST_F(FailingDiskTest, TheOldStateOrTheNewOneStands) {
+  const std::string old_state = StateOf(before_);
+  std::string new_states[3];
+  for (const Kind kind : {kChange, kAdd, kTogether}) {
+    Saved{kind, Failure::kError, BroughtBack()}.Make();
+    new_states[kind] = StateOf(file_);
+    ASSERT_TRUE(old_state != new_states[kind] && new_states[kind].starts_with("ok|"));
   }
+  int told = 0;
+  FailEachChange([&](std::unique_ptr<Saved> saved) {
+    const auto [kind, full, unsure, fault] =
+        std::tuple(saved->kind, saved->failure == Failure::kFull, saved->IsUnsure(), saved->fault);
+    saved.reset();
+    const std::string stands = StateOf(file_);
+    ASSERT_TRUE(stands == old_state || stands == new_states[kind]);
+    if (fault.empty()) {
+      EXPECT_TRUE(stands == new_states[kind]);
+      return;
+    }
+    EXPECT_THAT(fault, HasSubstr(file_.string()));
+    EXPECT_THAT(fault, HasSubstr(full ? "disk is full" : "the disk reported an error"));
+    // Only a save that says so may turn out to be made, and none says so on a full disk.
+    EXPECT_TRUE(unsure ? !full : stands == old_state);
+    ++told;
+  });
+  EXPECT_GT(told, 12);
+}
+
+// Whatever a save that failed has told, what was typed waits and can be saved again, and a new row is never
+// added twice.
+TEST_F(FailingDiskTest, WhatWaitsIsKeptAndCanBeSavedAgain) {
+  int unsure = 0;
+  FailEachChange([&](std::unique_ptr<Saved> saved) {
+    RowSet& jobs = saved->jobs;
+    if (saved->IsUnsure()) ++unsure;
+    EXPECT_EQ(jobs.IsEditing(), !saved->fault.empty());
+    EXPECT_EQ(jobs.Value("Name"), "new");
+    Save(jobs, {{"County", "typed since"}});
+    EXPECT_FALSE(jobs.IsEditing());
+    EXPECT_EQ(Where(jobs), saved->kind == kChange ? "1 at 0 of 20" : "21 at 20 of 21");
+    jobs.Open(saved->database, "SELECT * FROM TblBrindel WHERE Name LIKE 'new'");
+    EXPECT_EQ(jobs.RecordCount(), 1);
+    EXPECT_EQ(jobs.Value("1T(11)") + jobs.Value("County"), "newtyped since");
+    EXPECT_EQ(jobs.Value("Town"), saved->town);
+  });
+  EXPECT_GT(unsure, 3);
+}
+
+TEST_F(FailingDiskTest, WhatATransactionLosesWaitsAgain) {
+  Database database(file_);
+  RowSet jobs = Opened(database, "SELECT * FROM TblBrindel WHERE Name LIKE 'old'");
+  {
+    const Database::Transaction transaction(database);
+    Save(jobs, {{"Town", "first"}});
+    EXPECT_FALSE(jobs.IsEditing());
+  }
+  EXPECT_TRUE(jobs.IsEditing());
+  EXPECT_EQ(jobs.StoredValue(jobs.FindColumn("Town")), "");
+  jobs.Update();
+  {
+    const Database::Transaction transaction(database);
+    Add(jobs, {{"Name", "old, and new"}});
+  }
+  EXPECT_TRUE(jobs.IsAdding());
+  EXPECT_EQ(Where(jobs), " at -1 of 20");
+  jobs.CancelUpdate();
+  EXPECT_EQ(jobs.Value("Town"), "first");
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 namespace tarvane {
 namespace {
 
+using namespace std::string_literals;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
@@ -20,8 +21,7 @@ class RowEditTest : public ShopFile {
   // As another connection sees it: committed values only.
   std::string Stored(std::string_view key, std::string_view column) const {
     Database database(file_);
-    RowSet rows;
-    rows.Open(database, "TblBrindel");
+    RowSet rows = Opened(database);
     rows.SetBookmark(key);
     return rows.Value(column);
   }
@@ -31,31 +31,26 @@ class RowEditTest : public ShopFile {
 };
 
 TEST_F(RowEditTest, ChangesWaitUntilUpdate) {
+  const int town = jobs_.FindColumn("Town");
   EXPECT_FALSE(jobs_.IsEditing());
   jobs_.SetValue("town", "Marlow");
   EXPECT_TRUE(jobs_.IsEditing());
   EXPECT_EQ(jobs_.Value("Town"), "Marlow");
-  EXPECT_EQ(jobs_.StoredValue(jobs_.FindColumn("Town")), "");
+  EXPECT_EQ(jobs_.StoredValue(town), "");
   EXPECT_EQ(Stored("1", "Town"), "");
+  {
+    Database other_database(file_);
+    RowSet other = Opened(other_database);
+    Save(other, {{"County", "Bucks"}});
+  }
   jobs_.Update();
   EXPECT_FALSE(jobs_.IsEditing());
-  EXPECT_EQ(jobs_.StoredValue(jobs_.FindColumn("Town")), "Marlow");
+  EXPECT_EQ(jobs_.StoredValue(town), "Marlow");
   EXPECT_EQ(Stored("1", "Town"), "Marlow");
+  EXPECT_EQ(Stored("1", "County"), "Bucks") << "only changed columns are written";
   jobs_.SetValue("Town", "Henley");
   jobs_.SetValue("Town", "Marlow");
   EXPECT_FALSE(jobs_.IsEditing()) << "the stored value again: nothing waits";
-}
-
-TEST_F(RowEditTest, OnlyChangedColumnsAreWritten) {
-  jobs_.SetValue("Town", "Marlow");
-  Database other_database(file_);
-  RowSet other;
-  other.Open(other_database, "TblBrindel");
-  other.SetValue("County", "Bucks");
-  other.Update();
-  jobs_.Update();
-  EXPECT_EQ(Stored("1", "County"), "Bucks");
-  EXPECT_EQ(Stored("1", "Town"), "Marlow");
 }
 
 TEST_F(RowEditTest, EveryMoveCommits) {
@@ -83,12 +78,7 @@ TEST_F(RowEditTest, CloseAndTheEndOfTheProcessLoseWhatWaits) {
   jobs_.SetValue("Town", "lost");
   jobs_.Close();
   EXPECT_FALSE(jobs_.IsOpen());
-  EXPECT_EQ(Stored("1", "Town"), "");
-  {
-    RowSet rows;
-    rows.Open(*database_, "TblBrindel");
-    rows.SetValue("Town", "lost");
-  }
+  Opened(*database_).SetValue("Town", "lost");
   EXPECT_EQ(Stored("1", "Town"), "");
 }
 
@@ -97,43 +87,29 @@ TEST_F(RowEditTest, ANewRowHasItsDefaults) {
   jobs_.AddNew();
   EXPECT_TRUE(jobs_.HasRow());
   EXPECT_TRUE(jobs_.IsAdding());
-  EXPECT_EQ(jobs_.AbsolutePosition(), -1);
   EXPECT_EQ(jobs_.Bookmark(), "");
-  const std::pair<const char*, const char*> defaults[] = {
-      {"RefNo", ""},       {"Name", ""},       {"Text10", "Empty\r\n"}, {"Text33", "0.00"},
-      {"G-Total", "0.00"}, {"Completed", "0"}, {"YesNo2", "0"},         {"Memo21", ""},
-      {"Ext4", "0"},       {"Ext1", "20"},     {"5T(4)", "0.00"},       {"1T(11)", ""}};
-  for (const auto& [column, value] : defaults) EXPECT_EQ(jobs_.Value(column), value) << column;
-  jobs_.SetValue("Name", "Four");
-  jobs_.SetValue("Check12", "1");
-  EXPECT_EQ(jobs_.RecordCount(), 3);
-  jobs_.Update();
+  EXPECT_EQ(Where(jobs_), " at -1 of 3");
+  Save(jobs_, {{"Name", "Four"}, {"Check12", "1"}});
   EXPECT_FALSE(jobs_.IsAdding());
-  EXPECT_EQ(jobs_.Value("RefNo"), "4");
   EXPECT_EQ(jobs_.Bookmark(), "4");
-  EXPECT_EQ(jobs_.AbsolutePosition(), 3);
-  EXPECT_EQ(jobs_.RecordCount(), 4);
-  EXPECT_EQ(Stored("4", "Text32"), "Empty\r\n");
-  EXPECT_EQ(Stored("4", "Check12"), "1");
-  EXPECT_EQ(Stored("4", "Check11"), "0");
+  EXPECT_EQ(Where(jobs_), "4 at 3 of 4");
+  const std::pair<const char*, const char*> stored[] = {
+      {"Text32", "Empty\r\n"}, {"Text33", "0.00"}, {"Ext1", "20"}, {"Check12", "1"}, {"Check11", "0"}};
+  for (const auto& [column, value] : stored) EXPECT_EQ(Stored("4", column), value) << column;
 }
 
 TEST_F(RowEditTest, CancelBringsTheFormerRowBack) {
   jobs_.MoveTo(1);
+  const std::function<void()> steps[] = {[&] { jobs_.CancelUpdate(); },
+                                         [&] { jobs_.AddNew(), jobs_.CancelUpdate(); },
+                                         [&] { jobs_.AddNew(), jobs_.Delete(); }};
   jobs_.SetValue("Name", "changed");
-  jobs_.CancelUpdate();
-  EXPECT_EQ(jobs_.Value("Name"), "Two");
-  jobs_.AddNew();
-  jobs_.SetValue("Name", "never");
-  jobs_.CancelUpdate();
-  EXPECT_EQ(jobs_.Value("Name"), "Two");
-  EXPECT_EQ(jobs_.AbsolutePosition(), 1);
-  jobs_.AddNew();
-  jobs_.Delete();
-  EXPECT_EQ(jobs_.Value("Name"), "Two");
-  EXPECT_EQ(jobs_.RecordCount(), 3);
-  RowSet admin;
-  admin.Open(*database_, "Admin");
+  for (const auto& step : steps) {
+    step();
+    EXPECT_EQ(jobs_.Value("Name"), "Two");
+    EXPECT_EQ(Where(jobs_), "2 at 1 of 3");
+  }
+  RowSet admin = Opened(*database_, "Admin");
   admin.AddNew();
   admin.CancelUpdate();
   EXPECT_FALSE(admin.HasRow());
@@ -142,37 +118,23 @@ TEST_F(RowEditTest, CancelBringsTheFormerRowBack) {
 TEST_F(RowEditTest, DeleteGoesToTheNextThenTheLast) {
   jobs_.MoveTo(1);
   jobs_.SetValue("Name", "dropped with its row");
-  jobs_.Delete();
-  EXPECT_EQ(jobs_.Value("Name"), "Three");
-  EXPECT_EQ(jobs_.AbsolutePosition(), 1);
-  jobs_.Delete();
-  EXPECT_EQ(jobs_.Value("Name"), "One");
-  jobs_.Delete();
-  EXPECT_FALSE(jobs_.HasRow());
-  EXPECT_EQ(jobs_.RecordCount(), 0);
+  for (const char* place : {"3 at 1 of 2", "1 at 0 of 1", "- at -1 of 0"}) {
+    jobs_.Delete();
+    EXPECT_EQ(Where(jobs_), place);
+  }
   EXPECT_THROW(jobs_.Delete(), Fault);
   EXPECT_THROW(jobs_.Edit(), Fault);
   EXPECT_THROW(jobs_.SetValue("Name", "x"), Fault);
   jobs_.Update();
-}
-
-TEST_F(RowEditTest, KeysAreNeverUsedAgain) {
-  jobs_.MoveLast();
-  jobs_.Delete();
-  jobs_.Close();
   AddJobs({"Next"});
   jobs_.Open(*database_, "TblBrindel");
-  EXPECT_THAT(Walk(jobs_, "RefNo"), ElementsAre("1", "2", "4"));
+  EXPECT_EQ(jobs_.Value("RefNo"), "4") << "keys are never used again";
 }
 
 TEST_F(RowEditTest, ColumnsRefuseWhatTheyCannotHold) {
-  const std::string fits = [] {
-    std::string text;
-    for (int i = 0; i < 255; ++i) text += "é";
-    return text;
-  }();
-  jobs_.SetValue("Name", fits);
-  jobs_.Update();
+  std::string fits;
+  for (int i = 0; i < 255; ++i) fits += "é";
+  Save(jobs_, {{"Name", fits}});
   EXPECT_EQ(Stored("1", "Name"), fits);
   jobs_.SetValue("Name", fits + "x");
   jobs_.SetValue("Town", "waits too");
@@ -180,86 +142,64 @@ TEST_F(RowEditTest, ColumnsRefuseWhatTheyCannotHold) {
   EXPECT_EQ(jobs_.AbsolutePosition(), 0);
   EXPECT_EQ(jobs_.Value("Town"), "waits too");
   EXPECT_EQ(Stored("1", "Town"), "");
-  jobs_.SetValue("Name", "short");
-  jobs_.SetValue("1T(0)", std::string(100000, 'm'));
-  jobs_.SetValue("Completed", "yes");
-  EXPECT_THAT(FaultOf([&] { jobs_.Update(); }), HasSubstr("Completed"));
-  jobs_.SetValue("Completed", "1");
-  jobs_.Update();
+  const Values with_a_memo = {{"Name", "short"}, {"1T(0)", std::string(100000, 'm')}, {"Completed", "yes"}};
+  EXPECT_THAT(FaultOf([&] { Save(jobs_, with_a_memo); }), HasSubstr("Completed"));
+  Save(jobs_, {{"Completed", "1"}});
   EXPECT_EQ(Stored("1", "1T(0)").size(), 100000U);
+}
+
+TEST_F(RowEditTest, ColumnsThatAreNotThereAndTheKeyAreRefused) {
   EXPECT_THROW(jobs_.SetValue("RefNo", "7"), Fault);
   EXPECT_THROW(jobs_.SetValue("NoColumn", "7"), Fault);
-  EXPECT_THROW(jobs_.SetValue(-1, "7"), Fault);
-  EXPECT_THROW(jobs_.ColumnName(jobs_.ColumnCount()), Fault);
-  EXPECT_EQ(jobs_.Value(-1), "");
-  EXPECT_EQ(jobs_.Value("NoColumn"), "");
+  EXPECT_THROW(jobs_.Value("NoColumn"), Fault);
+  for (const int column : {-1, jobs_.ColumnCount()}) {
+    EXPECT_THROW(jobs_.SetValue(column, "7"), Fault);
+    EXPECT_THROW(jobs_.ColumnName(column), Fault);
+    EXPECT_THROW(jobs_.Value(column), Fault);
+    EXPECT_THROW(jobs_.StoredValue(column), Fault);
+    EXPECT_THROW(jobs_.PeekRow(0, {0, column}), Fault);
+  }
 }
 
 TEST_F(RowEditTest, TextsComeBackByteForByte) {
-  const std::string texts[] = {"",
-                               " ",
-                               "a'b\"c",
-                               "line\r\nline\n",
-                               std::string("nul\0within", 10),
-                               "Ångström €",
-                               "\xFF\xFE",
-                               "NULL",
-                               "'",
-                               "1e5",
-                               "007",
-                               "|~"};
-  for (const std::string& text : texts) {
-    jobs_.SetValue("Name", text);
-    jobs_.SetValue("5T(3)", text);
-    jobs_.Update();
+  for (const std::string& text : {""s, " "s, "a'b\"c"s, "line\r\nline\n"s, "nul\0within"s, "Ångström €"s,
+                                  "\xFF\xFE"s, "NULL"s, "'"s, "1e5"s, "007"s, "|~"s}) {
+    Save(jobs_, {{"Name", text}, {"5T(3)", text}});
     EXPECT_EQ(Stored("1", "Name"), text);
     EXPECT_EQ(Stored("1", "5T(3)"), text);
-    if (text.find('\'') == std::string::npos && text.find('\0') == std::string::npos) {
-      jobs_.FindFirst("Name LIKE '" + text + "'");
-      EXPECT_EQ(jobs_.Value("RefNo"), "1") << text;
-    }
+    if (text.find('\'') != std::string::npos || text.find('\0') != std::string::npos) continue;
+    jobs_.FindFirst("Name LIKE '" + text + "'");
+    EXPECT_EQ(jobs_.Value("RefNo"), "1") << text;
   }
 }
 
 TEST_F(RowEditTest, ANewRowOfASearchComesLastAndStays) {
   jobs_.Open(*database_, "SELECT * FROM TblBrindel WHERE Name LIKE 't*'");
-  jobs_.AddNew();
-  jobs_.SetValue("Name", "Other");
-  jobs_.Update();
-  EXPECT_EQ(jobs_.RecordCount(), 3);
-  EXPECT_EQ(jobs_.AbsolutePosition(), 2);
+  Add(jobs_, {{"Name", "Other"}});
+  EXPECT_EQ(Where(jobs_), "4 at 2 of 3");
   jobs_.MoveFirst();
-  EXPECT_EQ(jobs_.Value("Name"), "Three");
-  jobs_.SetValue("Name", "Zed");
-  jobs_.Update();
+  Save(jobs_, {{"Name", "Zed"}});
   EXPECT_THAT(Walk(jobs_, "Name"), ElementsAre("Zed", "Two", "Other"));
 }
 
 TEST_F(RowEditTest, TransactionsHoldTogether) {
-  const auto save = [&](bool commit) {
-    Database::Transaction outer(*database_);
+  for (const bool commit : {false, true}) {
     {
-      Database::Transaction inner(*database_);
-      RowSet admin;
-      admin.Open(*database_, "Admin");
-      admin.AddNew();
-      admin.SetValue("LastOrderNo", "1");
-      admin.Update();
-      inner.Commit();
+      Database::Transaction outer(*database_);
+      {
+        Database::Transaction inner(*database_);
+        RowSet admin = Opened(*database_, "Admin");
+        Add(admin, {{"LastOrderNo", "1"}});
+        inner.Commit();
+      }
+      Save(jobs_, {{"Ext2", "1"}});
+      if (commit) outer.Commit();
     }
-    jobs_.SetValue("Ext2", "1");
-    jobs_.Update();
-    if (commit) outer.Commit();
-  };
-  save(false);
-  EXPECT_EQ(Stored("1", "Ext2"), "");
-  jobs_.Resync();
-  EXPECT_EQ(jobs_.Value("Ext2"), "");
-  save(true);
-  EXPECT_EQ(Stored("1", "Ext2"), "1");
-  RowSet admin;
-  admin.Open(*database_, "Admin");
-  EXPECT_EQ(admin.RecordCount(), 1);
+    EXPECT_EQ(Stored("1", "Ext2"), commit ? "1" : "");
+    EXPECT_EQ(Opened(*database_, "Admin").RecordCount(), commit ? 1 : 0);
+    jobs_.Resync();
+    EXPECT_EQ(jobs_.Value("Ext2"), commit ? "1" : "");
+  }
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <filesystem>
 #include <string>
@@ -11,31 +10,10 @@
 #include "store/database.h"
 #include "store/row_set.h"
 #include "store/table_definition.h"
-#include "text_number/fault.h"
+#include "support/temporary_folder.h"
+#include "text/fault.h"
 
 namespace tarvane {
-
-// A folder of its own for each test, gone with it.
-class TemporaryFolder {
- public:
-  TemporaryFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "tarvane-test-XXXXXX").string();
-    if (::mkdtemp(pattern.data()) == nullptr) throw Fault("no temporary folder");
-    path_ = pattern;
-  }
-  ~TemporaryFolder() {
-    std::error_code error;
-    std::filesystem::permissions(path_, std::filesystem::perms::owner_all, error);
-    std::filesystem::remove_all(path_, error);
-  }
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-  const std::filesystem::path& path() const { return path_; }
-
- private:
-  std::filesystem::path path_;
-};
 
 // The text of the fault that `step` ends in, "" where it ends well.
 template <typename Step>
@@ -48,24 +26,46 @@ std::string FaultOf(Step step) {
   return "";
 }
 
+// Rows of the jobs, where nothing else is asked for.
+inline RowSet Opened(Database& database, std::string_view source = "TblBrindel") {
+  RowSet rows;
+  rows.Open(database, source);
+  return rows;
+}
+
+using Values = std::vector<std::pair<std::string_view, std::string>>;
+
+inline void Save(RowSet& rows, const Values& values) {
+  for (const auto& [column, value] : values) rows.SetValue(column, value);
+  rows.Update();
+}
+
+inline void Add(RowSet& rows, const Values& values) {
+  rows.AddNew();
+  Save(rows, values);
+}
+
+// Where a row set stands: the key of its current row (or "-"), its position, and how many rows there are.
+inline std::string Where(const RowSet& rows) {
+  return (rows.HasRow() ? rows.Value(0) : "-") + " at " + std::to_string(rows.AbsolutePosition()) + " of " +
+         std::to_string(rows.RecordCount());
+}
+
 // A jobs file with all its tables and no rows.
 class ShopFile : public testing::Test {
  protected:
   ShopFile() : file_(folder_.path() / "Tarvane.mdb") {
     Database database(file_, Database::Mode::kCreate);
+    Database::Transaction together(database);
     for (const TableDefinition& table : TableDefinitions()) CreateTable(database, table);
+    together.Commit();
   }
 
   void AddJobs(const std::vector<std::string>& names) const {
     Database database(file_);
     Database::Transaction transaction(database);
-    RowSet jobs;
-    jobs.Open(database, "TblBrindel");
-    for (const std::string& name : names) {
-      jobs.AddNew();
-      jobs.SetValue("Name", name);
-      jobs.Update();
-    }
+    RowSet jobs = Opened(database);
+    for (const std::string& name : names) Add(jobs, {{"Name", name}});
     transaction.Commit();
   }
 

@@ -148,4 +148,4 @@ close
 open QuickFinderGrid 1
 expect Name "Mrs K. Brandt"
 expect G-Total 0.00
-expect TxtLastOrderNo 1001
+expect TxtLastOrderNo 1003

@@ -177,7 +177,7 @@ open QuickFinderGrid 1
 expect Name "Mrs Elin Tudor"
 expect Ext6 "Alison Hart"
 expect Ext2 1001
-expect TxtLastOrderNo 1001
+expect TxtLastOrderNo 1002
 expect-rows RoomItemGrid 1
 expect RoomItemGrid 1 1 383.64
 expect G-Total 383.64

@@ -5,6 +5,7 @@ A story is a script with a few comment lines that are read here:
   # sample     the program folder gets the sample shop
   # exit N     this run ends with exit status N (0 where none is told)
   # restart    what follows is another run of the program on the same folder
+  # before C   the shell runs C in the program folder before this run; what it leaves running goes on
 """
 
 import argparse
@@ -46,6 +47,8 @@ def play(script_program, folder, script, at):
     """The transcript of one run, and what is wrong with its exit status."""
     path = folder.with_suffix(f".{at}.story")
     path.write_text(script, encoding="utf-8")
+    for command in re.findall(r"^# before (.+)$", script, re.MULTILINE):
+        subprocess.run(["sh", "-ec", command], cwd=folder, check=True, timeout=60)
     done = run([script_program, "--now", NOW, "--seed", SEED, folder, path])
     lines = done.stdout.decode("utf-8", "backslashreplace").splitlines()
     errors = done.stderr.decode("utf-8", "backslashreplace").splitlines()

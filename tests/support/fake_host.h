@@ -1,8 +1,9 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <deque>
 #include <functional>
-#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -33,16 +34,20 @@ class FakeHost : public Host {
   std::vector<std::string> launched;
   std::vector<PrintedPage> printed;
   std::string clipboard;
-  DateTime now = {2026, 3, 9, 14, 5, 0};
+  DateTime now = {MakeDay(2026, 3, 9), 14, 5, 0};
   int beeps = 0;
   int busy = 0;        // now
   int busy_times = 0;  // how often it was switched on
   int printer_setups = 0;
 
-  // The same with the screen's own class: host.OnShow<frmSplash>([](frmSplash& splash) { ... });
+  // The same with the screen's own class: host.OnShow<app::frmSplash>([](app::frmSplash& splash) { ... });
   template <typename Shown>
   void OnShow(std::function<void(Shown&)> step) {
-    shows.emplace_back([step = std::move(step)](Screen& screen) { step(dynamic_cast<Shown&>(screen)); });
+    shows.emplace_back([step = std::move(step)](Screen& screen) {
+      auto* const shown_screen = dynamic_cast<Shown*>(&screen);
+      if (shown_screen == nullptr) Fail("another screen than awaited: " + screen.name());
+      step(*shown_screen);
+    });
   }
 
   void RunModal(Screen& screen) override {
@@ -88,10 +93,16 @@ class FakeHost : public Host {
  private:
   template <typename T>
   static T Take(std::deque<T>& queue, std::string_view asked) {
-    if (queue.empty()) throw std::logic_error("no answer waits for: " + std::string(asked));
+    if (queue.empty()) Fail("no answer waits for: " + std::string(asked));
     T taken = std::move(queue.front());
     queue.pop_front();
     return taken;
+  }
+
+  // The test itself is wrong, or the program asks what it shouldn't.
+  [[noreturn]] static void Fail(const std::string& text) {
+    ADD_FAILURE() << text;
+    throw ProcessEnd{};
   }
 
   int digit_ = 0;

@@ -1,16 +1,16 @@
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
 #include <map>
 #include <string>
 #include <string_view>
 
-#include "job/job_record.h"
+#include "shop/shop.h"
 #include "store/data_files.h"
 #include "store/database.h"
 #include "store/row_set.h"
 #include "store/table_definition.h"
+#include "support/temporary_folder.h"
 
 namespace tarvane {
 
@@ -20,9 +20,6 @@ using RowValues = std::map<std::string, std::string>;
 class ShopFolder {
  public:
   ShopFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "tarvane-test-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) throw Fault("no temporary folder");
-    path_ = name;
     std::filesystem::create_directory(path_ / "Dat");
     Database database(jobs_file(), Database::Mode::kCreate);
     for (const std::string_view table : {kJobTable, kAdminTable}) CreateTable(database, FindTable(table));
@@ -30,7 +27,6 @@ class ShopFolder {
   ~ShopFolder() {
     std::error_code ignored;
     std::filesystem::permissions(path_ / "Dat", std::filesystem::perms::owner_all, ignored);
-    std::filesystem::remove_all(path_, ignored);
   }
   ShopFolder(const ShopFolder&) = delete;
   ShopFolder& operator=(const ShopFolder&) = delete;
@@ -70,7 +66,8 @@ class ShopFolder {
   }
 
  private:
-  std::filesystem::path path_;
+  TemporaryFolder folder_;
+  const std::filesystem::path path_ = folder_.path();
 };
 
 }  // namespace tarvane

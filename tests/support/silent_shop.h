@@ -20,7 +20,8 @@ class SilentShop {
 
  public:
   SilentHost host;
-  JobScreen job{host, folder_.path()};
+  Shop shop{folder_.path()};
+  job::JobScreen job{host, shop};
 };
 
 }  // namespace tarvane

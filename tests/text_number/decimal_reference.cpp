@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <sstream>
 
 namespace tarvane::reference {
 namespace {
@@ -65,6 +66,8 @@ std::string Round(const std::string& plain, int places, Half half) {
 
 std::string Trimmed(std::string plain) {
   if (IsZero(plain)) return "0";
+  const std::size_t sign = plain[0] == '-';
+  while (plain[sign] == '0' && plain[sign + 1] != '.' && plain.size() > sign + 1) plain.erase(sign, 1);
   if (plain.find('.') != std::string::npos) {
     while (plain.back() == '0') plain.pop_back();
     if (plain.back() == '.') plain.pop_back();
@@ -85,6 +88,16 @@ std::string AnyDigits(std::mt19937_64& dice, int whole, int fraction) {
   if (fraction > 0) text += '.';
   for (int i = 0; i < fraction; ++i) text += static_cast<char>('0' + dice() % 10);
   return text;
+}
+
+std::vector<std::pair<std::string, std::string>> Cases(std::string_view table) {
+  std::vector<std::pair<std::string, std::string>> cases;
+  std::istringstream parts{std::string(table)};
+  for (std::string part; std::getline(parts, part, ';');) {
+    const std::size_t sign = part.find('=');
+    cases.emplace_back(part.substr(0, sign), part.substr(sign + 1));
+  }
+  return cases;
 }
 
 }  // namespace tarvane::reference

@@ -2,6 +2,9 @@
 
 #include <random>
 #include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 // Decimal arithmetic on digit strings, as on paper: what the number functions are held against.
 namespace tarvane::reference {
@@ -22,5 +25,8 @@ double AnyDouble(std::mt19937_64& dice);
 
 // A text of `whole` and `fraction` random digits (no point where `fraction` is 0), perhaps with a minus sign.
 std::string AnyDigits(std::mt19937_64& dice, int whole, int fraction);
+
+// The cases of a table "IN=OUT;IN=OUT".
+std::vector<std::pair<std::string, std::string>> Cases(std::string_view table);
 
 }  // namespace tarvane::reference

@@ -5,99 +5,147 @@
 #include "support/fake_host.h"
 #include "support/shop_folder.h"
 
-namespace tarvane {
+namespace tarvane::tools {
 namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
+constexpr char kBeforeLoading[] = "This list box has change please save before loading the next list.";
+constexpr char kBeforeExiting[] = "This list box has change please save before exiting.";
+constexpr char kDrop[] = "The entries typed here are in no list yet. Drop them?";
+
 class ListAdminTest : public testing::Test {
  protected:
-  ListAdminTest() { lists_.emplace(host_, folder_.path()); }
-  void Choose(std::size_t option) { lists_->Options[option].UserSet(true); }
-  std::vector<const Button*> EditButtons() const {
-    return {&lists_->CMDADD, &lists_->CMDCLEAR, &lists_->CMDDELETE, &lists_->CMDSAVE};
+  void Choose(std::size_t option) { lists_.Options[option].UserSet(true); }
+  template <typename... Buttons>
+  static void Press(Buttons&... buttons) {
+    (buttons.UserPress(), ...);
+  }
+  void Add(const std::string& entry) {
+    host_.inputs = {entry};
+    Press(lists_.CMDADD);
+  }
+  void EditButtonsAre(bool on) {
+    for (const Button* button : {&lists_.CMDADD, &admin_.CMDCLEAR, &lists_.CMDDELETE, &lists_.CMDSAVE}) {
+      EXPECT_EQ(button->enabled(), on) << button->name();
+    }
+  }
+  // The questions asked since the last look.
+  std::size_t Asked() {
+    for (const Question& question : host_.questions) {
+      EXPECT_EQ(question.text, kDrop);
+      EXPECT_EQ(question.preset, Answer::kNo);
+    }
+    return std::exchange(host_.questions, {}).size();
   }
 
   ShopFolder folder_;
+  Shop shop_{folder_.path()};
   FakeHost host_;
-  std::optional<FrmListAdmin> lists_;
+  FrmListAdmin admin_{host_, shop_};
+  ListEditor& lists_ = admin_.Lists;
+  const std::vector<std::string>& entries_ = lists_.lstData.entries();
 };
 
 TEST_F(ListAdminTest, LoadsEditsAndSaves) {
-  folder_.Write("tiebackslist.dat", "Small\r\n Large \r\n");  // found whatever its case
+  folder_.Write("tiebackslist.dat", "\xEF\xBB\xBFSmall\r\n Large \r\n");  // found whatever its case
   Choose(1);
-  for (const Button* button : EditButtons()) EXPECT_FALSE(button->enabled()) << button->name();
-  lists_->CMDLOAD.UserPress();
-  EXPECT_THAT(lists_->lstData.entries(), ElementsAre("Small", " Large "));
-  EXPECT_EQ(lists_->txtLog.text(), (folder_.path() / "tiebackslist.dat").string());
-  for (const Button* button : EditButtons()) EXPECT_TRUE(button->enabled()) << button->name();
-  EXPECT_FALSE(lists_->CMDLOAD.enabled());
+  EditButtonsAre(false);
+  Press(lists_.CMDLOAD);
+  EXPECT_THAT(entries_, ElementsAre("Small", " Large "));
+  EXPECT_EQ(lists_.txtLog.text(), (folder_.path() / "tiebackslist.dat").string());
+  EditButtonsAre(true);
+  EXPECT_FALSE(lists_.CMDLOAD.enabled());
 
   host_.inputs = {"Medium", ""};
-  lists_->CMDADD.UserPress();
-  lists_->lstData.UserOpen(-1);
-  lists_->lstData.UserPick(0);
-  lists_->CMDDELETE.UserPress();
-  lists_->CMDSAVE.UserPress();
+  Press(lists_.CMDADD);
+  lists_.lstData.UserOpen(-1);
+  lists_.lstData.UserPick(0);
+  Press(lists_.CMDDELETE, lists_.CMDSAVE);
   EXPECT_EQ(folder_.Read("tiebackslist.dat"), " Large \r\nMedium\r\n\r\n");
   EXPECT_THAT(host_.messages, ElementsAre("List has been saved"));
   EXPECT_THAT(host_.titles, ElementsAre("Tarvane Lists"));
-  EXPECT_FALSE(lists_->changed());
-  lists_->UserClose();
-  EXPECT_TRUE(lists_->is_closed());
+  admin_.UserClose();
+  EXPECT_TRUE(admin_.is_closed());
 }
 
 TEST_F(ListAdminTest, UnsavedChangesKeepListAndScreen) {
-  lists_->CMDNEW.UserPress();
+  folder_.Write("Curtainlist.Dat", "One\r\n");
   host_.inputs = {std::nullopt};
-  lists_->CMDADD.UserPress();
-  EXPECT_FALSE(lists_->changed()) << "cancelled";
-  host_.inputs = {"One"};
-  lists_->CMDADD.UserPress();
-  lists_->CMDLOAD.UserPress();
-  lists_->Command1.UserPress();
-  lists_->UserClose();
-  EXPECT_FALSE(lists_->is_closed());
-  EXPECT_THAT(lists_->lstData.entries(), ElementsAre("One"));
-  EXPECT_THAT(host_.messages,
-              ElementsAre("This list box has change please save before loading the next list.",
-                          "This list box has change please save before exiting.",
-                          "This list box has change please save before exiting."));
+  Press(lists_.CMDLOAD, lists_.CMDADD);
+  EXPECT_FALSE(lists_.changed()) << "cancelled";
+  Add("Two");
+  Choose(1);
+  Press(lists_.CMDLOAD, admin_.Command1);
+  admin_.UserClose();
+  EXPECT_FALSE(admin_.is_closed());
+  EXPECT_THAT(entries_, ElementsAre("One", "Two"));
+  EXPECT_THAT(host_.messages, ElementsAre(kBeforeLoading, kBeforeExiting, kBeforeExiting));
   EXPECT_EQ(host_.titles.front(), "Tarvane Listed");
+  EXPECT_EQ(Asked(), 0U) << "saving keeps them";
+}
+
+// Nothing was loaded, so that there is no file to save to.
+TEST_F(ListAdminTest, EntriesOfNoListAreAskedFor) {
+  Press(admin_.CMDNEW);
+  Add("One");
+  host_.answers = {Answer::kNo, Answer::kNo, Answer::kNo};
+  Press(lists_.CMDLOAD);
+  admin_.UserClose();
+  Press(admin_.CMDNEW);
+  EXPECT_THAT(host_.messages, ElementsAre(kBeforeLoading, kBeforeExiting));
+  EXPECT_THAT(entries_, ElementsAre("One"));
+  EXPECT_EQ(Asked(), 3U);
+
+  Press(lists_.CMDSAVE);
+  EXPECT_FALSE(lists_.changed()) << "it is taken for saved, though it isn't";
+  host_.answers = {Answer::kNo, Answer::kYes};
+  admin_.UserClose();
+  EXPECT_FALSE(admin_.is_closed());
+  EXPECT_EQ(host_.messages.size(), 2U) << "without a message now";
+  Press(lists_.CMDLOAD);
+  EXPECT_THAT(entries_, IsEmpty()) << "dropped, another list loaded";
+  EXPECT_EQ(Asked(), 2U);
+  admin_.UserClose();
+  EXPECT_TRUE(admin_.is_closed());
+}
+
+TEST_F(ListAdminTest, EntriesThatCouldNotBeWrittenAreAskedFor) {
+  Press(lists_.CMDLOAD);
+  Add("One");
+  std::filesystem::create_directories(folder_.path() / "Curtainlist.Dat");  // can't be replaced
+  Press(lists_.CMDSAVE);
+  EXPECT_THAT(host_.messages, IsEmpty()) << "a failure isn't told";
+  host_.answers = {Answer::kNo, Answer::kYes};
+  Press(admin_.Command1);
+  EXPECT_FALSE(admin_.is_closed());
+  Press(admin_.Command1);
+  EXPECT_TRUE(admin_.is_closed());
 }
 
 TEST_F(ListAdminTest, ClearingIsNoChangeAndDeletingNothingIsOne) {
   folder_.Write("Curtainlist.Dat", "a\r\nb\r\n");
-  lists_->CMDLOAD.UserPress();
-  lists_->CMDCLEAR.UserPress();
-  EXPECT_THAT(lists_->lstData.entries(), IsEmpty());
-  EXPECT_FALSE(lists_->changed());
-  lists_->CMDDELETE.UserPress();
-  EXPECT_TRUE(lists_->changed());
+  Press(lists_.CMDLOAD, admin_.CMDCLEAR);
+  EXPECT_THAT(entries_, IsEmpty());
+  EXPECT_FALSE(lists_.changed());
+  Press(lists_.CMDDELETE);
+  EXPECT_TRUE(lists_.changed());
   EXPECT_THAT(host_.messages, IsEmpty());
+  EXPECT_EQ(folder_.Read("Curtainlist.Dat"), "a\r\nb\r\n");
 }
 
 TEST_F(ListAdminTest, EachOptionHasItsFile) {
   for (std::size_t i = 0; i < kOptionLists.size(); ++i) {
     Choose(i);
-    lists_->CMDLOAD.UserPress();
-    EXPECT_EQ(lists_->txtLog.text(), (folder_.path() / kOptionLists[i].file).string());
-    EXPECT_THAT(lists_->lstData.entries(), IsEmpty()) << "a missing file is an empty list";
+    EXPECT_EQ(host_.messages.empty(), i < 4) << "told with the check list";
+    Press(lists_.CMDLOAD);
+    EXPECT_EQ(lists_.txtLog.text(), (folder_.path() / kOptionLists[i].file).string());
+    EXPECT_THAT(entries_, IsEmpty()) << "a missing file is an empty list";
   }
   EXPECT_THAT(host_.messages, ElementsAre("The Check List system only reads the first 12 items in the list"));
   EXPECT_THAT(host_.titles, ElementsAre("Tarvane List Admin"));
 }
 
-TEST_F(ListAdminTest, AFailedSaveIsSilentAndKeepsTheFile) {
-  folder_.Write("Curtainlist.Dat", "a\n");  // line ends of another program
-  EXPECT_THAT(LoadListFile(folder_.path() / "Curtainlist.Dat"), ElementsAre("a"));
-  lists_->CMDNEW.UserPress();
-  lists_->CMDSAVE.UserPress();  // to no file at all
-  SaveListFile(*lists_, folder_.path() / "none" / "Curtainlist.Dat", {"b"});
-  EXPECT_THAT(host_.messages, IsEmpty());
-  EXPECT_EQ(folder_.Read("Curtainlist.Dat"), "a\n");
-}
-
 }  // namespace
-}  // namespace tarvane
+}  // namespace tarvane::tools

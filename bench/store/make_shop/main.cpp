@@ -4,7 +4,7 @@
 #include <cstdlib>
 
 #include "store/make_shop/make_shop.h"
-#include "text_number/fault.h"
+#include "text/fault.h"
 
 int main(int argc, char** argv) {
   if (argc < 2 || argc > 3) {

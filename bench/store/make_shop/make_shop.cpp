@@ -9,7 +9,7 @@
 #include "store/connection.h"
 #include "store/row_set.h"
 #include "store/table_definition.h"
-#include "text_number/fault.h"
+#include "text/fault.h"
 
 namespace tarvane {
 

@@ -1,12 +1,10 @@
 #include "desktop/builders.h"
 #include "desktop/forms/form_window.h"
 #include "desktop/forms/forms.h"
-#include "tools/enter_sales_person.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 
-void BuildEnterSalesPersonForm(Form& form) {
-  auto& screen = static_cast<FrmEnterSalesPerson&>(form.screen());
+void BuildEnterSalesPersonForm(Form& form, tools::FrmEnterSalesPerson& screen) {
   Builder build(form);
   FillDialog(form, {
                        build.Fields({{"Sales Person", {{screen.CboSalesPerson, {.width = 26}}}}}),
@@ -15,4 +13,4 @@ void BuildEnterSalesPersonForm(Form& form) {
                    });
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

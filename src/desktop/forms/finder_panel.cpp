@@ -1,32 +1,35 @@
+#include <QKeyEvent>
+#include <QLayout>
 #include <QPushButton>
 #include <QTableView>
 
 #include "app/main_screen.h"
+#include "desktop/forms/form_window.h"
 #include "desktop/forms/main_form.h"
+#include "desktop/make.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 namespace {
 
 // What the shop looks for, in words. The other columns are there on demand.
-const TableLook kFinderColumns = {{
-    {"ID", "", 5, true},
-    {"Ext2", "Order No", 8, true},
-    {"Name", "", 23},
-    {"Address", "", 20},
-    {"Town", "", 16},
-    {"PostCode", "Post Code", 9},
-    {"Telephone", "", 13},
-    {"Ext3", "Fitting Date", 10},
-    {"4text", "Total", 9, true},
-    {"5Text", "Bal", 9, true},
-    {"Ext6", "Sales Person", 14},
-    {"Mobile", "", 13},
-    {"3Text", "Created", 10},
-}};
+const TableLook kFinderColumns = {.columns = {{"ID", "", 5, true},
+                                              {"Ext2", "Order No", 8, true},
+                                              {"Name", "", 23},
+                                              {"4text", "Total", 10, true},
+                                              {"5Text", "Bal", 10, true},
+                                              {"Ext3", "Fitting Date", 10},
+                                              {"Address", "", 20},
+                                              {"Town", "", 16},
+                                              {"PostCode", "Post Code", 9},
+                                              {"Telephone", "", 13},
+                                              {"Ext6", "Sales Person", 14},
+                                              {"Mobile", "", 13},
+                                              {"3Text", "Created", 10}},
+                                  .name = "Jobs"};
 
 // A button of the desktop's own: it does what Enter in the grid does.
-Piece OpenButton(Form& form, MainScreen& screen) {
-  auto* button = std::make_unique<QPushButton>("&Open Job").release();
+Piece OpenButton(Form& form, app::MainScreen& screen) {
+  auto* button = Make<QPushButton>("&Open Job");
   button->setAutoDefault(false);
   QObject::connect(button, &QPushButton::clicked, &form, [&form, &screen] {
     form.Act(screen.QuickFinderGrid, [&screen](Control&) {
@@ -38,8 +41,8 @@ Piece OpenButton(Form& form, MainScreen& screen) {
 }
 
 // The menu's entry as a button: most days start with it.
-Piece AddButton(Form& form, MainScreen& screen) {
-  auto* button = std::make_unique<QPushButton>("Add &New").release();
+Piece AddButton(Form& form, app::MainScreen& screen) {
+  auto* button = Make<QPushButton>("Add &New");
   button->setAutoDefault(false);
   Button& command = screen.CommandButton("munNew2");
   QObject::connect(button, &QPushButton::clicked, &form,
@@ -47,41 +50,46 @@ Piece AddButton(Form& form, MainScreen& screen) {
   return {button};
 }
 
+// Down leads from the search text into the list.
+class DownIntoList : public QObject {
+ public:
+  DownIntoList(QObject* text, QWidget* list) : QObject(text), list_(list) { text->installEventFilter(this); }
+
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress) return false;
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (key->key() != Qt::Key_Down || key->modifiers() != Qt::NoModifier) return false;
+    list_->setFocus(Qt::TabFocusReason);
+    return true;
+  }
+
+ private:
+  QWidget* list_;
+};
+
+Piece People(Builder& build, app::MainScreen& screen) {
+  const Piece person = build.Fields({{"Sales Person", {{screen.CboSalesPersonSearch, {.width = 20}}}}});
+  const Piece last =
+      build.Fields({{"Last Record Opened", {{screen.txtLastRecord, {.width = 8, .number = true}}}}});
+  return build.Flow({person, build.Press(screen.CmdFindSalesPersonsJobs), build.Press(screen.CMDLOAD),
+                     Builder::Spring(), last});
+}
+
 }  // namespace
 
-Piece FinderPanel(Builder& build, MainScreen& screen) {
-  const Piece search = build.Row({
-      build
-          .Fields({{"Find by",
-                    {{screen.CboFabSearch, {.width = 20}},
-                     build.Text("Search String ( * can be used)"),
-                     {screen.FabSText, {.width = 22}},
-                     screen.CmdSearch,
-                     screen.CmdReset}}})
-          .Grow(),
-  });
-  const Piece people = build.Row({
-      build
-          .Fields({{"Sales Person",
-                    {{screen.CboSalesPersonSearch, {.width = 20}},
-                     screen.CmdFindSalesPersonsJobs,
-                     screen.CMDLOAD}}})
-          .Grow(),
-      Builder::Spring(),
-      build.Text("Last Record Opened"),
-      build.Field(screen.txtLastRecord, {.width = 8, .number = true}),
-  });
-  const Piece open = build.Row({
-      AddButton(build.form(), screen),
-      OpenButton(build.form(), screen),
-      Builder::Gap(1),
-      build.Text(screen.Label12, true),
-      Builder::Spring(),
-  });
+Piece FinderPanel(Builder& build, app::MainScreen& screen) {
+  Form& form = build.form();
+  const Piece open = build.Flow(
+      {AddButton(form, screen), OpenButton(form, screen), Builder::Gap(1), build.Text(screen.Label12, true)});
+  const Piece table = build.Table(screen.QuickFinderGrid, kFinderColumns);
   const Piece page =
-      build.Column({open, build.Table(screen.QuickFinderGrid, kFinderColumns), build.Rule(), search, people});
-  build.form().Bind(screen.Frame2, page.layout, nullptr);
+      build.Column({open, table, build.Rule(), build.Find(screen.JobFinder), People(build, screen)});
+  if (QObject* text = form.WidgetOf(screen.JobFinder.FabSText)) {
+    Make<DownIntoList>(text, table.widget);
+  }
+  SayWhyOff(form, screen.JobFinder.CmdSearch, "Choose what to search by first.");
+  form.Bind(screen.Frame2, page.layout, nullptr);
   return build.Margin(page);
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

@@ -1,22 +1,36 @@
 #include "app/main_screen.h"
+#include "desktop/folding.h"
+#include "desktop/forms/form_window.h"
 #include "desktop/forms/main_form.h"
+#include "desktop/make.h"
+#include "desktop/text.h"
+#include "desktop/theme.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 namespace {
 
 FieldLine DateLine(const char* caption, TextField& date, Button& pick) {
   return {caption, {{date, {.width = 12}}, pick}};
 }
 
-Piece Commands(Builder& build, MainScreen& screen, const std::vector<const char*>& names) {
+Piece Commands(Builder& build, app::MainScreen& screen, const std::vector<const char*>& names) {
   Pieces buttons;
   for (const char* name : names) buttons.push_back(build.Press(screen.CommandButton(name)));
   return build.Column(buttons, 1);
 }
 
+// A heading with a name in it, which may be long.
+Piece Elided(Builder& build, Label& label) {
+  auto* made = Make<ElidedLabel>();
+  build.form().Bind(label, made, [made, &label](Aspect aspect) {
+    if (aspect == Aspect::kCaption) made->setText(LinesToQt(label.caption()).trimmed());
+  });
+  return {made, nullptr, 1};
+}
+
 }  // namespace
 
-Piece CustomerPage(Builder& build, MainScreen& screen) {
+Piece CustomerPage(Builder& build, app::MainScreen& screen) {
   const Look telephone{.width = 20};
   const Piece customer = build.Group(
       "Customer",
@@ -56,29 +70,32 @@ Piece CustomerPage(Builder& build, MainScreen& screen) {
                                Commands(build, screen, {"CmdPrint", "Command6", "CmdPrintStatement"}),
                                Builder::Spring(),
                            });
-  return build.Scroll(build.Row(
-      {
-          build.Column({customer, Builder::Spring()}).Grow(4),
-          build.Column({job, Builder::Gap(2), notes.Grow()}).Grow(3),
-          commands,
-      },
-      5));
+  return build.Scroll(Folding(build, {
+                                         build.Column({customer, Builder::Spring()}).Grow(4),
+                                         build.Column({job, Builder::Gap(2), notes.Grow()}).Grow(3),
+                                         commands,
+                                     }));
 }
 
-Piece SinglesPage(Builder& build, MainScreen& screen) {
-  const TableLook columns = {{{"Item No", "", 7, true},
-                              {"Qty", "", 7, true},
-                              {"Description", "", 30},
-                              {"Unit Price", "", 11, true},
-                              {"Total", "", 11, true}},
-                             "Description"};
+Piece SinglesPage(Builder& build, app::MainScreen& screen) {
+  const TableLook columns = {.columns = {{"Item No", "", 7, true},
+                                         {"Qty", "", 7, true},
+                                         {"Description", "", 24},
+                                         {"Unit Price", "", 10, true},
+                                         {"Total", "", 10, true}},
+                             .wide = "Description",
+                             .name = "Single items",
+                             .insert = &screen.CmdRooms[0],
+                             .remove = &screen.CmdRooms[2]};
   Pieces buttons;
   for (Button& button : screen.CmdRooms) buttons.push_back(build.Press(button));
   buttons.push_back(Builder::Spring());
-  buttons.push_back(build.Text("Single Items Total:"));
-  buttons.push_back(build.Field(screen.TxtSubTotal, {.width = 9, .number = true, .strong = true}));
-  const Piece singles =
-      build.Group("Single items", {build.Row(buttons), build.Table(screen.SingleItemGrid, columns)});
+  buttons.push_back(build.Fields(
+      {{"Single Items Total:", {{screen.TxtSubTotal, {.width = 10, .number = true, .strong = true}}}}}));
+  SayWhyOff(build.form(), screen.CmdRooms[2], "Select an item in the list first.");
+  const Piece table = build.Table(screen.SingleItemGrid, columns);
+  build.form().AddSizer([widget = table.widget] { widget->setMinimumWidth(Digits(50)); });
+  const Piece singles = build.Group("Single items", {build.Flow(buttons), table});
   Pieces flags;
   for (TickBox& flag : screen.CheckList) flags.push_back(build.Tick(flag));
   const Piece list = build.Group("Check list", {
@@ -87,15 +104,14 @@ Piece SinglesPage(Builder& build, MainScreen& screen) {
                                                    build.Press(screen.CommandButton("UpdateCheckList")),
                                                    Builder::Spring(),
                                                });
-  return build.Scroll(build.Row({singles.Grow(3), list.Grow(1)}, 5));
+  return build.Scroll(Folding(build, {singles.Grow(3), list.Grow(1)}));
 }
 
-Piece HistoryPage(Builder& build, MainScreen& screen) {
+Piece HistoryPage(Builder& build, app::MainScreen& screen) {
   return build.Scroll(build.Column({
-      build.Row({build.Text(screen.HistoryHeading), Builder::Spring(),
-                 build.Press(screen.CommandButton("MakePayment"))}),
-      build.Field(screen.History),
+      build.Row({Elided(build, screen.HistoryHeading), build.Press(screen.CommandButton("MakePayment"))}),
+      build.Field(screen.History, {.name = "Payment history"}),
   }));
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

@@ -1,12 +1,12 @@
 #include "desktop/builders.h"
+#include "desktop/folding.h"
 #include "desktop/forms/form_window.h"
 #include "desktop/forms/forms.h"
-#include "tools/options.h"
+#include "desktop/windows.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 
-void BuildOptionsForm(Form& form) {
-  auto& screen = static_cast<frmOptions&>(form.screen());
+void BuildOptionsForm(Form& form, tools::frmOptions& screen) {
   Builder build(form);
   const Look percent{.width = 8, .number = true, .unit = "%"};
   const Look number{.width = 8, .number = true};
@@ -42,20 +42,21 @@ void BuildOptionsForm(Form& form) {
                                                    {"Notes", {{screen.TxtNotes, {.lines = 4}}}},
                                                })});
   const Piece records =
-      build.Row({build.Press(screen.CmdFirst), build.Press(screen.CmdPrevious), build.Text(screen.RecordBar),
-                 build.Press(screen.CmdNext), build.Press(screen.CmdLast), Builder::Spring(),
-                 build.Press(screen.CmdNew)});
-  FillDialog(form,
-             {
-                 build.Row({company, Builder::Gap(4),
-                            build.Column({prices, Builder::Gap(2), counters, Builder::Spring()})}),
-                 Builder::Gap(1),
-                 build.Rule(),
-                 records,
-                 build.Row({Builder::Spring(), build.Press(screen.cmdOK, true), build.Press(screen.cmdApply),
-                            build.Press(screen.cmdCancel)}),
-             },
-             &screen.cmdCancel);
+      build.Row({build.Records(screen.Records), Builder::Spring(), build.Press(screen.CmdNew)});
+  FillDialog(
+      form,
+      {
+          Folding(build, {company, build.Column({prices, Builder::Gap(2), counters, Builder::Spring()})}),
+          Builder::Gap(1),
+          build.Rule(),
+          records,
+          build.Row({Builder::Spring(), build.Press(screen.cmdOK, true), build.Press(screen.cmdApply),
+                     build.Press(screen.cmdCancel)}),
+      },
+      &screen.cmdCancel);
+  ClosesWindow(form, screen.cmdCancel);
+  static_cast<DialogWindow*>(form.window())->escaped = [&form] { form.window()->close(); };
+  SayWhyOff(form, screen.cmdApply, "Nothing has been changed.");
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

@@ -1,19 +1,17 @@
-#include "curtain_wizard/frm_preferences.h"
 #include "desktop/builders.h"
 #include "desktop/forms/form_window.h"
 #include "desktop/forms/forms.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 
-void BuildPreferencesForm(Form& form) {
-  auto& screen = static_cast<FrmPreferences&>(form.screen());
+void BuildPreferencesForm(Form& form, curtain_wizard::FrmPreferences& screen) {
   Builder build(form);
   // Beside the labels; prices have none.
-  constexpr std::array<const char*, FrmPreferences::kBoxes> kUnits = {"%",     "",       "",  "", "",
-                                                                      "times", "inches", "%", ""};
+  constexpr std::array<const char*, curtain_wizard::FrmPreferences::kBoxes> kUnits = {
+      "%", "", "", "", "", "times", "inches", "%", ""};
   std::vector<FieldLine> lines;
   for (std::size_t i = 0; i < kUnits.size(); ++i) {
-    lines.push_back({std::string(FrmPreferences::kLabels[i]),
+    lines.push_back({std::string(curtain_wizard::FrmPreferences::kLabels[i]),
                      {{screen.Text1[i], {.width = 10, .number = true, .unit = kUnits[i]}}}});
   }
   FillDialog(
@@ -26,4 +24,4 @@ void BuildPreferencesForm(Form& form) {
       &screen.Command1);
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

@@ -1,14 +1,14 @@
 #include <QFont>
 #include <QLabel>
 
-#include "app/splash.h"
 #include "desktop/builders.h"
 #include "desktop/forms/form_window.h"
 #include "desktop/forms/forms.h"
 #include "desktop/icons.h"
+#include "desktop/make.h"
 #include "desktop/theme.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 namespace {
 
 Piece Enlarged(Piece piece, int percent) {
@@ -20,7 +20,7 @@ Piece Enlarged(Piece piece, int percent) {
 }
 
 Piece Picture() {
-  auto* picture = std::make_unique<QLabel>().release();
+  auto* picture = Make<QLabel>();
   const int side = Quarters(24);
   picture->setPixmap(MakeIcon("Estimate").pixmap(QSize(side, side)));
   return {picture};
@@ -28,8 +28,7 @@ Piece Picture() {
 
 }  // namespace
 
-void BuildSplashForm(Form& form) {
-  auto& screen = static_cast<frmSplash&>(form.screen());
+void BuildSplashForm(Form& form, app::frmSplash& screen) {
   Builder build(form);
   const Piece texts = build.Column(
       {
@@ -49,4 +48,4 @@ void BuildSplashForm(Form& form) {
              &screen.Command1);
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

@@ -1,25 +1,32 @@
+#include "desktop/forms/wizard_form.h"
+
 #include <QBoxLayout>
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
-#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStackedLayout>
-#include <QTimer>
+#include <QStyle>
+#include <algorithm>
 #include <array>
+#include <utility>
 
-#include "curtain_wizard/costing.h"
 #include "curtain_wizard/wizard.h"
-#include "desktop/builders.h"
+#include "desktop/flow_row.h"
 #include "desktop/forms/forms.h"
 #include "desktop/forms/wizard_steps.h"
+#include "desktop/make.h"
 #include "desktop/step_bar.h"
 #include "desktop/text.h"
 #include "desktop/theme.h"
 #include "desktop/window_drawing.h"
 #include "desktop/windows.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 namespace {
 
+using curtain_wizard::MainCWizard;
 using PageMaker = Piece (*)(Builder& build, MainCWizard& wizard);
 
 struct StepPage {
@@ -37,65 +44,39 @@ constexpr std::array<StepPage, MainCWizard::kSteps> kPages = {{
     {"Print or Save", TotalsPage},
 }};
 constexpr int kLastStep = MainCWizard::kSteps - 1;
-constexpr int kStripMargin = 2;  // quarters
+constexpr int kStripMargin = 2;        // quarters
+constexpr int kHelpWidth = 50;         // digits
+constexpr int kHeightWithHelp = 115;   // quarters; a lower window has its lines for the step
+constexpr int kLeastMiddle = 20;       // quarters
+constexpr int kLeastPage = 50;         // quarters, that scroll below the head
+constexpr int kHeightOfDrawing = 36;   // quarters, at least
+constexpr int kLeastDescription = 14;  // digits
 
 void PutOnStrip(const Piece& piece) {
   piece.widget->setAutoFillBackground(true);
   piece.widget->setBackgroundRole(QPalette::ToolTipBase);
 }
 
-// The total once it has been worked out, what the parts come to before that.
-bool TotalIsKnown(const MainCWizard& wizard) {
-  return wizard.step() == kLastStep && !wizard.CmdGetInfo.enabled();
-}
-
-Piece CostTag(Builder& build, MainCWizard& wizard) {
-  auto* amount = std::make_unique<QLabel>().release();
-  amount->setTextFormat(Qt::PlainText);
-  amount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  amount->setAccessibleName("Cost of the item");
-  build.form().AddSizer([amount] {
-    QFont font;
-    font.setBold(true);
-    font.setPointSizeF(font.pointSizeF() * 1.6);
-    amount->setFont(font);
-    amount->setMinimumWidth(Digits(14));
-  });
-  build.form().Follow([amount, &wizard] {
-    const QString text = ToQt(TotalIsKnown(wizard) ? wizard.GrandTotal.text() : CostSoFar(wizard));
-    if (amount->text() != text) amount->setText(text);
-  });
-  const Piece caption = FollowingText(build, [&wizard] {
-    return TotalIsKnown(wizard) ? std::string("Total Inc Vat/Tax") : std::string("So far Exc Vat/Tax");
-  });
-  qobject_cast<QLabel*>(caption.widget)->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  return build.Column({caption, {amount}}, 0);
-}
-
-Piece Captioned(Builder& build, const char* caption, const Piece& field) {
-  return build.Column({build.Text(caption, true), field}, 0).Grow(field.stretch);
+Piece Captioned(Builder& build, const char* caption, TextField& field, const Look& look) {
+  const Piece box = Named(build, field, look, caption);
+  return build.Column({build.Text(caption, true), box}, 0).Grow(box.stretch);
 }
 
 Piece Header(Builder& build, MainCWizard& wizard) {
+  const Piece room = Captioned(build, "Room Ref", wizard.TxtRoom, {.width = 16});
+  const Piece description = Captioned(build, "Description", wizard.TxtDescription, {});
+  const Piece number = Captioned(build, "Item No", wizard.ItemNumber, {.width = 9, .number = true});
   const Piece strip = build.Margin(
-      build.Row(
-          {
-              Captioned(build, "Room Ref", build.Field(wizard.TxtRoom, {.width = 16})),
-              Captioned(build, "Description", build.Field(wizard.TxtDescription).Grow()),
-              Captioned(build, "Item No", build.Field(wizard.ItemNumber, {.width = 9, .number = true})),
-              Builder::Gap(4),
-              CostTag(build, wizard),
-          },
-          3),
-      2);
+      FlowRow({room, {description, kLeastDescription}, number, CostTag(build, wizard)}, 2), kStripMargin);
   PutOnStrip(strip);
   return strip;
 }
 
 Piece Steps(Builder& build, MainCWizard& wizard, QStackedLayout* stack) {
   std::vector<QString> names;
+  names.reserve(std::size(kPages));
   for (const StepPage& page : kPages) names.emplace_back(page.name);
-  auto* bar = std::make_unique<StepBar>(std::move(names)).release();
+  auto* bar = Make<StepBar>(std::move(names));
   Form& form = build.form();
   bar->pressed = [&form, &tabs = wizard.StepTabs](int step) {
     form.ActLater(tabs, [&tabs, step](Control&) { tabs.UserSelect(step); });
@@ -117,6 +98,14 @@ void FillPages(Builder& build, MainCWizard& wizard, QStackedLayout* stack) {
     build.form().Bind(wizard.StepPanel[step], page.widget, nullptr);
   }
 }
+
+// With room for the bar of a page that scrolls, so that none needs another line for it.
+class PagesWidget : public QWidget {
+ public:
+  QSize sizeHint() const override {
+    return QWidget::sizeHint() + QSize(style()->pixelMetric(QStyle::PM_ScrollBarExtent), 0);
+  }
+};
 
 // The page beside the drawing. The page keeps its width: where there is no room for both, the drawing goes.
 class PageAndDrawing : public QWidget {
@@ -144,7 +133,7 @@ class PageAndDrawing : public QWidget {
  private:
   void ShowOrHide() {
     const int needed = pages_->sizeHint().width() + drawing_->minimumSizeHint().width();
-    drawing_->setVisible(wanted_ && width() >= needed);
+    drawing_->setVisible(wanted_ && width() >= needed && height() >= Quarters(kHeightOfDrawing));
   }
 
   QWidget* pages_;
@@ -152,34 +141,12 @@ class PageAndDrawing : public QWidget {
   bool wanted_ = true;
 };
 
-// The help line with the tools beside it, or below where the window is narrow.
-class HelpRow : public QWidget {
- public:
-  HelpRow(const Piece& help, const Piece& tools) : tools_(tools.layout) {
-    auto box = std::make_unique<QBoxLayout>(QBoxLayout::LeftToRight, this);
-    box->setContentsMargins(0, 0, 0, 0);
-    box->addWidget(help.widget, 1);
-    box->addLayout(tools.layout);
-    box_ = box.release();
-  }
-
- protected:
-  void resizeEvent(QResizeEvent* event) override {
-    QWidget::resizeEvent(event);
-    const bool beside = tools_->sizeHint().width() + Digits(kHelpWidth) <= width();
-    box_->setDirection(beside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-  }
-
- private:
-  static constexpr int kHelpWidth = 50;  // digits
-
-  QLayout* tools_;
-  QBoxLayout* box_;
-};
-
 Piece PagesArea(Builder& build, MainCWizard& wizard, QWidget* pages) {
-  auto* drawing = std::make_unique<WindowDrawing>().release();
-  auto* area = std::make_unique<PageAndDrawing>(pages, drawing).release();
+  auto* drawing = Make<WindowDrawing>();
+  // As high as the view leaves, not as they would like to be: where that is too low, StepsWidget says so.
+  pages->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
+  drawing->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+  auto* area = Make<PageAndDrawing>(pages, drawing);
   build.form().Follow([drawing, area, &wizard] {
     area->SetWanted(wizard.step() != kLastStep);
     drawing->Show(ReadWindow(wizard));
@@ -187,99 +154,95 @@ Piece PagesArea(Builder& build, MainCWizard& wizard, QWidget* pages) {
   return {area, nullptr, 1};
 }
 
-Piece Help(Builder& build, MainCWizard& wizard) {
-  const Piece help = build.Text(wizard.HelpLine);
-  qobject_cast<QLabel*>(help.widget)->setWordWrap(true);
-  const Piece tools = build.Row({
-      build.Press(wizard.CmdSelect),
-      build.Press(wizard.CmdCurOptions),
-      build.Press(wizard.CmdListOptions),
-      build.Press(wizard.CmdConverter),
-      build.Press(wizard.CmdCalculator),
-      Builder::Spring(),
-  });
-  return {std::make_unique<HelpRow>(help, tools).release()};
+// The steps with their head. Where the window is low, the line that says what a step is for goes, and head
+// and page scroll as one; else the page alone scrolls.
+class StepsWidget : public QWidget {
+ public:
+  StepsWidget(QWidget* help, QWidget* head, QStackedLayout* stack)
+      : help_(help), head_(head), stack_(stack) {}
+
+  void ScrollIn(QScrollArea* area) {
+    area_ = area;
+    // The page's width, and so its height, settles after that of the view.
+    for (QWidget* widget : {area->viewport(), stack_->parentWidget()}) widget->installEventFilter(this);
+  }
+  void ShowStep(int step) {
+    if (std::exchange(step_, step) != step) area_->verticalScrollBar()->setValue(0);
+    Fit();
+  }
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Resize) Fit();
+    return false;
+  }
+
+ private:
+  void Fit() {
+    help_->setVisible(window()->height() >= Quarters(kHeightWithHelp));
+    QWidget* pages = stack_->parentWidget();
+    const int room = area_->viewport()->height() - head_->layout()->totalHeightForWidth(width());
+    const bool low = room < Quarters(kLeastPage);
+    auto* page = static_cast<QScrollArea*>(stack_->currentWidget());
+    // A bar that has come up keeps the page narrow, and so too high to do without it.
+    page->setVerticalScrollBarPolicy(low ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+    const int all = page->widget()->layout()->totalHeightForWidth(pages->width());
+    const int height = low ? std::max(all, page->widget()->minimumSizeHint().height()) : 0;
+    if (pages->minimumHeight() != height) pages->setMinimumHeight(height);
+  }
+
+  QWidget* help_;
+  QWidget* head_;
+  QStackedLayout* stack_;
+  QScrollArea* area_ = nullptr;
+  int step_ = 0;
+};
+
+Piece Tools(Builder& build, MainCWizard& wizard) {
+  return FlowRow({build.Press(wizard.CmdSelect), build.Press(wizard.CmdCurOptions),
+                  build.Press(wizard.CmdListOptions), build.Press(wizard.CmdConverter),
+                  build.Press(wizard.CmdCalculator)});
 }
 
 Piece StepsArea(Builder& build, MainCWizard& wizard) {
-  auto* area = std::make_unique<QWidget>().release();
-  auto* pages = std::make_unique<QWidget>().release();
-  auto* stack = std::make_unique<QStackedLayout>(pages).release();
+  auto* pages = Make<PagesWidget>();
+  auto* stack = Make<QStackedLayout>(pages);
   FillPages(build, wizard, stack);
-  const Piece bar =
-      build.Margin(build.Column({Steps(build, wizard, stack), Help(build, wizard)}, 1), kStripMargin);
-  area->setLayout(build.Column({bar, build.Rule(), PagesArea(build, wizard, pages)}, 0).layout);
-  area->layout()->setContentsMargins(0, 0, 0, 0);
-  build.form().Bind(wizard.StepsPanel, area, nullptr);
-  return {area, nullptr, 1};
+  const Piece line = build.Text(wizard.HelpLine);
+  qobject_cast<QLabel*>(line.widget)->setWordWrap(true);
+  const Piece help = build.Margin(line, 0).Grow();
+  const Piece tools = FlowRow({{help, kHelpWidth}, Tools(build, wizard)});
+  const Piece head = build.Margin(build.Column({Steps(build, wizard, stack), tools}, 1), kStripMargin);
+  auto* steps = Make<StepsWidget>(help.widget, head.widget, stack);
+  steps->setLayout(build.Column({head, build.Rule(), PagesArea(build, wizard, pages)}, 0).layout);
+  steps->layout()->setContentsMargins(0, 0, 0, 0);
+  const Piece area = build.Scroll({steps}, 0);
+  steps->ScrollIn(qobject_cast<QScrollArea*>(area.widget));
+  build.form().Bind(wizard.StepsPanel, area.widget, nullptr);
+  build.form().Follow([steps, &wizard] { steps->ShowStep(wizard.step()); });
+  return area;
 }
 
+// Scrolls, so that the window needs no more room for it than for the steps.
 Piece ListsArea(Builder& build, MainCWizard& wizard) {
-  const Piece area = build.Margin(WizardListsPage(build, wizard).Grow()).Grow();
+  const Piece area = build.Scroll(WizardListsPage(build, wizard).Grow());
   build.form().Bind(wizard.ListPanel, area.widget, nullptr);
   area.widget->setVisible(wizard.ListPanel.shown());
   return area;
 }
 
-// While the trims are in view, their button of the same access key has it; Escape closes at any time.
-void ShareAccessKey(Form& form, MainCWizard& wizard) {
-  auto* close = qobject_cast<QPushButton*>(form.WidgetOf(wizard.CmdClose));
-  form.Follow([close, &wizard] {
-    const std::string& caption = wizard.CmdClose.caption();
-    const QString text = wizard.CalculateTrims.shown() ? PlainCaption(caption) : ToQt(caption);
-    if (close->text() != text) close->setText(text);
-  });
-}
-
 Piece Footer(Builder& build, MainCWizard& wizard) {
-  const Piece footer = build.Margin(build.Row({
-                                        build.Press(wizard.CmdBack),
-                                        build.Press(wizard.CmdNext, true),
-                                        Builder::Spring(),
-                                        build.Press(wizard.CmdUpdateAndClose, true),
-                                        build.Press(wizard.CmdFinishTwo, true),
-                                        Builder::Gap(2),
-                                        build.Press(wizard.CmdClose),
-                                    }),
-                                    2);
-  PutOnStrip(footer);
-  ShareAccessKey(build.form(), wizard);
-  return footer;
-}
-
-// The last field of a page leads on, not back; the tools come last.
-void OrderFoot(Form& form, MainCWizard& wizard) {
-  QWidget* last = nullptr;
-  for (const Control* control : std::initializer_list<const Control*>{
-           &wizard.CmdNext, &wizard.CmdBack, &wizard.CmdUpdateAndClose, &wizard.CmdFinishTwo,
-           &wizard.CmdClose, &wizard.CmdSelect, &wizard.CmdCurOptions, &wizard.CmdListOptions,
-           &wizard.CmdConverter, &wizard.CmdCalculator}) {
-    auto* widget = qobject_cast<QWidget*>(form.WidgetOf(*control));
-    if (last != nullptr) QWidget::setTabOrder(last, widget);
-    last = widget;
-  }
-}
-
-// The worker types as soon as the window is there. Where she comes back to the first step, Next has the
-// focus.
-void StartAtDescription(Form& form, MainCWizard& wizard) {
-  auto* description = qobject_cast<QWidget*>(form.WidgetOf(wizard.TxtDescription));
-  QTimer::singleShot(0, description, [description] { description->setFocus(Qt::TabFocusReason); });
-}
-
-// A new step starts at its first field.
-void StartAtFirstField(Form& form, MainCWizard& wizard) {
-  form.Follow([&form, &wizard, seen = 0]() mutable {
-    if (std::exchange(seen, wizard.step()) == wizard.step() || wizard.step() == 0) return;
-    auto* page = qobject_cast<QWidget*>(form.WidgetOf(wizard.StepPanel[wizard.step()]));
-    for (QWidget* widget = page->nextInFocusChain(); page->isAncestorOf(widget);
-         widget = widget->nextInFocusChain()) {
-      if (!widget->isEnabled() || widget->isHidden() || (widget->focusPolicy() & Qt::TabFocus) == 0) continue;
-      // After the button that led here has had its focus.
-      QTimer::singleShot(0, widget, [widget] { widget->setFocus(Qt::TabFocusReason); });
-      return;
-    }
+  const Piece moves = build.Row({build.Press(wizard.CmdBack), build.Press(wizard.CmdNext, true)});
+  const Piece ends = build.Row({
+      Builder::Spring(),
+      build.Press(wizard.CmdUpdateAndClose, true),
+      build.Press(wizard.CmdFinishTwo, true),
+      Builder::Gap(1),
+      build.Press(wizard.CmdClose),
   });
+  const Piece footer = build.Margin(FlowRow({moves, ends.Grow()}), kStripMargin);
+  PutOnStrip(footer);
+  return footer;
 }
 
 }  // namespace
@@ -315,30 +278,35 @@ Piece FollowingText(Builder& build, std::function<std::string()> text) {
   return piece;
 }
 
+Piece Named(Builder& build, TextField& field, const Look& look, std::string_view name) {
+  const Piece piece = build.Field(field, look);
+  qobject_cast<QWidget*>(build.form().WidgetOf(field))->setAccessibleName(ToQt(name));
+  return piece;
+}
+
 Piece Advice(Builder& build, std::string_view text) {
   const Piece piece = build.Text(text, true);
   qobject_cast<QLabel*>(piece.widget)->setWordWrap(true);
   return piece;
 }
 
-void BuildWizardForm(Form& form) {
-  auto& wizard = static_cast<MainCWizard&>(form.screen());
+void BuildWizardForm(Form& form, MainCWizard& wizard) {
   Builder build(form);
   auto* window = static_cast<DialogWindow*>(form.window());
-  // Only the step scrolls: the head and the foot stay in view.
-  window->setLayout(build
-                        .Column({Header(build, wizard), StepsArea(build, wizard).Grow(),
-                                 ListsArea(build, wizard).Grow(), Footer(build, wizard)},
-                                0)
-                        .layout);
+  // Only what is between them scrolls: the head and the foot stay in view. While steps and lists take turns,
+  // both are there for a moment, for which the window must not grow.
+  const Piece middle =
+      build.Margin(build.Column({StepsArea(build, wizard).Grow(), ListsArea(build, wizard).Grow()}, 0), 0)
+          .Grow();
+  form.AddSizer([middle] { middle.widget->setMinimumHeight(Quarters(kLeastMiddle)); });
+  const Piece head = Header(build, wizard);
+  window->setLayout(build.Column({head, middle, Footer(build, wizard)}, 0).layout);
   window->layout()->setContentsMargins(0, 0, 0, 0);
   window->resize(Digits(160), Quarters(152));
   window->escaped = [&form, &wizard] {
     form.Act(wizard.CmdClose, [&wizard](Control&) { wizard.CmdClose.UserPress(); });
   };
-  OrderFoot(form, wizard);
-  StartAtDescription(form, wizard);
-  StartAtFirstField(form, wizard);
+  AddWizardHabits(form, wizard);
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

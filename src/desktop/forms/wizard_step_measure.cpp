@@ -1,47 +1,49 @@
 #include <QGridLayout>
-#include <QWidget>
 #include <array>
 
 #include "curtain_wizard/wizard.h"
+#include "desktop/flow_row.h"
 #include "desktop/forms/wizard_steps.h"
-#include "desktop/text.h"
+#include "desktop/make.h"
 #include "desktop/theme.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 namespace {
 
-constexpr int kCaptions = 29;  // digits, for the longest caption
+constexpr int kCaptions = 29;       // digits, for the longest caption
+constexpr int kLeastCaptions = 14;  // in a narrow window
 
 // A measure and its mirror in the worker's other unit.
 struct MeasureLine {
   const char* caption;
-  TextField MainCWizard::*inches;
-  TextField MainCWizard::*centimetres;
+  TextField curtain_wizard::MainCWizard::*inches;
+  TextField curtain_wizard::MainCWizard::*centimetres;
   bool is_length;  // otherwise a factor, the same in both columns
 };
 
 constexpr std::array<MeasureLine, 6> kLines = {{
-    {"Track Width", &MainCWizard::TrackWidthIns, &MainCWizard::TrackWidthCm, true},
-    {"Fabric Width", &MainCWizard::FabricWidthIns, &MainCWizard::FabricWidthCm, true},
-    {"Fullness = 2 ( 1 for Roman Blinds)", &MainCWizard::Fullness, &MainCWizard::FullnessMirror, false},
-    {"Finished Length", &MainCWizard::FinishedLengthIns, &MainCWizard::FinishedLengthCm, true},
-    {"PR (Enter 0 if using plain fabric)", &MainCWizard::PatternRepeatIns, &MainCWizard::PatternRepeatCm,
+    {"Track Width", &curtain_wizard::MainCWizard::TrackWidthIns, &curtain_wizard::MainCWizard::TrackWidthCm,
      true},
-    {"Hemming Allow (Heads and Hems)", &MainCWizard::HemAllowanceIns, &MainCWizard::HemAllowanceCm, true},
+    {"Fabric Width", &curtain_wizard::MainCWizard::FabricWidthIns,
+     &curtain_wizard::MainCWizard::FabricWidthCm, true},
+    {"Fullness = 2 ( 1 for Roman Blinds)", &curtain_wizard::MainCWizard::Fullness,
+     &curtain_wizard::MainCWizard::FullnessMirror, false},
+    {"Finished Length", &curtain_wizard::MainCWizard::FinishedLengthIns,
+     &curtain_wizard::MainCWizard::FinishedLengthCm, true},
+    {"PR (Enter 0 if using plain fabric)", &curtain_wizard::MainCWizard::PatternRepeatIns,
+     &curtain_wizard::MainCWizard::PatternRepeatCm, true},
+    {"Hemming Allow (Heads and Hems)", &curtain_wizard::MainCWizard::HemAllowanceIns,
+     &curtain_wizard::MainCWizard::HemAllowanceCm, true},
 }};
 
-Piece CentimetreUnit(Builder& build, MainCWizard& wizard) {
+Piece CentimetreUnit(Builder& build, curtain_wizard::MainCWizard& wizard) {
   return FollowingText(
       build, [&wizard] { return std::string(wizard.UnitLabel[0].caption() == "mm" ? "mm" : "cm"); });
 }
 
-void NameBox(const Piece& box, const char* caption, const char* column) {
-  box.widget->setAccessibleName(QString("%1, %2").arg(caption, column));
-}
-
-// Both columns side by side; the one that isn't typed into is quiet since its fields are disabled.
-Piece MeasureTable(Builder& build, MainCWizard& wizard) {
-  auto* grid = std::make_unique<QGridLayout>().release();
+// Both columns side by side; the one that isn't typed into is read-only.
+Piece MeasureTable(Builder& build, curtain_wizard::MainCWizard& wizard) {
+  auto* grid = Make<QGridLayout>();
   grid->setHorizontalSpacing(Quarters(1));
   grid->setVerticalSpacing(Quarters(1));
   const auto put = [grid](const Piece& piece, int row, int column, Qt::Alignment side = {}) {
@@ -49,27 +51,25 @@ Piece MeasureTable(Builder& build, MainCWizard& wizard) {
   };
   put(build.Text("Inches", true), 0, 1, Qt::AlignRight);
   put(build.Text(wizard.UnitLabel[0], true), 0, 4, Qt::AlignRight);
-  const Look look{.width = 9, .number = true};
+  const Look look{.width = 9, .number = true, .mirror = true};
   int row = 1;
   for (const MeasureLine& line : kLines) {
-    put(build.Text(line.caption), row, 0);
-    const Piece inches = build.Field(wizard.*line.inches, look);
-    const Piece centimetres = build.Field(wizard.*line.centimetres, look);
-    NameBox(inches, line.caption, "inches");
-    NameBox(centimetres, line.caption, "centimetres");
+    put(BreakingText(line.caption, kLeastCaptions, kCaptions), row, 0);
+    const std::string caption = line.caption;
+    const Piece inches = Named(build, wizard.*line.inches, look, caption + ", inches");
+    const Piece centimetres = Named(build, wizard.*line.centimetres, look, caption + ", centimetres");
     put(inches, row, 1);
     put(build.Text(line.is_length ? "in" : "\u00d7", true), row, 2);
     put(centimetres, row, 4);
     put(line.is_length ? CentimetreUnit(build, wizard) : build.Text("\u00d7", true), row, 5);
     ++row;
   }
-  build.form().AddSizer([grid] { grid->setColumnMinimumWidth(0, Digits(kCaptions)); });
   grid->setColumnMinimumWidth(3, Quarters(2));
   grid->setColumnStretch(6, 1);
   return {nullptr, grid};
 }
 
-Piece Choices(Builder& build, MainCWizard& wizard) {
+Piece Choices(Builder& build, curtain_wizard::MainCWizard& wizard) {
   return build.Column(
       {
           build.Group("Convert to:", {build.Row({build.Tick(wizard.UnitCms), build.Tick(wizard.UnitMm),
@@ -85,33 +85,38 @@ Piece Choices(Builder& build, MainCWizard& wizard) {
       1);
 }
 
-Piece Requirement(Builder& build, MainCWizard& wizard) {
+Piece Requirement(Builder& build, curtain_wizard::MainCWizard& wizard) {
   const Look count{.width = 10, .number = true};
+  const Look patterns{.width = 18, .number = true, .words = true};  // "Plain Fabric Used"
+  const Look metres{.width = 10, .number = true, .unit = "m", .strong = true};
   const Piece unit = build.Text(wizard.UnitLabel[1], true);
-  return Results(
-      build, kCaptions,
-      {
-          {"Number of Drops. (Widths)", {{wizard.NumberOfDrops, count}, {wizard.CmdCalculate}}},
-          {"Number of Patterns per Drop .", {{wizard.PatternsPerDrop, {.width = 18, .number = true}}}},
-          {"Cuts =", {{wizard.CutLengthIns, Measured("in", 10)}, {wizard.CutLengthCm, count}, {unit}}},
-          {"Metres required",
-           {{wizard.MetresRequired, {.width = 10, .number = true, .unit = "m", .strong = true}},
-            {wizard.CmdRoundUp},
-            {wizard.AutoRoundup}}},
-      });
+  const Piece widths = FlowRow(
+      {Named(build, wizard.NumberOfDrops, count, "Number of Drops"), build.Press(wizard.CmdCalculate)});
+  const Piece cuts =
+      FlowRow({Named(build, wizard.CutLengthIns, Measured("in", 10), "Cuts, inches"),
+               build.Row({Named(build, wizard.CutLengthCm, count, "Cuts, centimetres"), unit}, 1)});
+  const Piece required = FlowRow({Named(build, wizard.MetresRequired, metres, "Metres required"),
+                                  build.Press(wizard.CmdRoundUp), build.Tick(wizard.AutoRoundup)});
+  return Results(build, kCaptions,
+                 {
+                     {"Number of Drops. (Widths)", {{widths.Grow()}}},
+                     {"Number of Patterns per Drop .", {{wizard.PatternsPerDrop, patterns}}},
+                     {"Cuts =", {{cuts.Grow()}}},
+                     {"Metres required", {{required.Grow()}}},
+                 });
 }
 
 }  // namespace
 
-Piece MeasurePage(Builder& build, MainCWizard& wizard) {
+Piece MeasurePage(Builder& build, curtain_wizard::MainCWizard& wizard) {
+  const Piece style = build.Fields({{"Curtain / Valance Style", {{wizard.CboCurtainStyle}}}}).Grow();
   return build.Column({
-      build.Row({build.Fields({{"Curtain / Valance Style", {{wizard.CboCurtainStyle}}}}).Grow(),
-                 Builder::Gap(2), build.Tick(wizard.InputInInches)}),
-      build.Row({MeasureTable(build, wizard), Builder::Gap(3), Choices(build, wizard).Grow()}),
+      FlowRow({style, build.Tick(wizard.InputInInches)}),
+      FlowRow({MeasureTable(build, wizard), Choices(build, wizard).Grow()}, 3),
       Builder::Gap(1),
       Requirement(build, wizard),
       Builder::Spring(),
   });
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

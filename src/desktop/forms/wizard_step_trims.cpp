@@ -1,22 +1,20 @@
 #include "curtain_wizard/wizard.h"
+#include "desktop/flow_row.h"
 #include "desktop/forms/wizard_steps.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 namespace {
 
 constexpr int kCaptions = 25;  // digits, for the longest caption
 
-Piece Placement(Builder& build, MainCWizard& wizard) {
-  return build.Group("Placement",
-                     {
-                         build.Row({build.Tick(wizard.AllSides), Builder::Gap(1), build.Tick(wizard.PlaceTop),
-                                    build.Tick(wizard.PlaceBottom), build.Tick(wizard.PlaceTwoSides),
-                                    build.Tick(wizard.PlaceFourSides), Builder::Spring()}),
-                     });
+Piece Placement(Builder& build, curtain_wizard::MainCWizard& wizard) {
+  return build.Group("Placement", {FlowRow({build.Tick(wizard.AllSides), build.Tick(wizard.PlaceTop),
+                                            build.Tick(wizard.PlaceBottom), build.Tick(wizard.PlaceTwoSides),
+                                            build.Tick(wizard.PlaceFourSides)})});
 }
 
 // One of them is shown, by the kind of the trim.
-Piece KindPanels(Builder& build, MainCWizard& wizard) {
+Piece KindPanels(Builder& build, curtain_wizard::MainCWizard& wizard) {
   return build.Column(
       {
           build.Group(
@@ -44,7 +42,17 @@ Piece KindPanels(Builder& build, MainCWizard& wizard) {
 
 }  // namespace
 
-Piece TrimsPage(Builder& build, MainCWizard& wizard) {
+Piece TrimsPage(Builder& build, curtain_wizard::MainCWizard& wizard) {
+  const Piece drop = Named(build, wizard.TxtDropCuts, Measured("in"), "Cuts");
+  const Piece cuts =
+      FlowRow({Named(build, wizard.TxtFabricWidth, Measured("in"), "Fabric Width"),
+               build.Row({build.Text("Cuts"), drop}), build.Press(wizard.CalculateTrims, true)});
+  const Piece price =
+      FlowRow({Named(build, wizard.TrimPrice, kMoney, "Price Per Metre"), build.Tick(wizard.TrimPriceExVat)});
+  const Piece amount =
+      FlowRow({Named(build, wizard.TxtAmountInches, Measured("Inches"), "Amount of Fabric needed in Inches"),
+               Named(build, wizard.TxtAmountMetres, Measured("Metres"), "Amount of Fabric needed in Metres"),
+               build.Press(wizard.RoundUpTrims)});
   return build.Column(
       {
           Advice(build, "If your Curtains need any Frills/Trims etc you can add the information here."),
@@ -61,20 +69,13 @@ Piece TrimsPage(Builder& build, MainCWizard& wizard) {
                 {
                     {"Widths ",
                      {{wizard.TxtCurtainWidths, {.width = 9, .number = true}}, {wizard.TrimByWidths}}},
-                    {"Fabric Width",
-                     {{wizard.TxtFabricWidth, Measured("in")},
-                      {build.Text("Cuts")},
-                      {wizard.TxtDropCuts, Measured("in")},
-                      {wizard.CalculateTrims, {.strong = true}}}},
+                    {"Fabric Width", {{cuts.Grow()}}},
                 }),
           Results(build, kCaptions,
                   {
-                      {"Amount of Fabric needed in:",
-                       {{wizard.TxtAmountInches, Measured("Inches")},
-                        {wizard.TxtAmountMetres, Measured("Metres")},
-                        {wizard.RoundUpTrims}}},
+                      {"Amount of Fabric needed in:", {{amount.Grow()}}},
                       {"Metres", {{wizard.TrimMetres, Measured("m")}}},
-                      {wizard.TrimPriceLabel, {{wizard.TrimPrice, kMoney}, {wizard.TrimPriceExVat}}},
+                      {wizard.TrimPriceLabel, {{price.Grow()}}},
                       {"Costing", {{wizard.TrimCost, kMoneyResult}}},
                   }),
           Builder::Spring(),
@@ -82,4 +83,4 @@ Piece TrimsPage(Builder& build, MainCWizard& wizard) {
       1);
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

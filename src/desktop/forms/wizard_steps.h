@@ -2,24 +2,27 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "desktop/builders.h"
 
-namespace tarvane {
-
+namespace tarvane::curtain_wizard {
 class MainCWizard;
+}
+
+namespace tarvane::desktop {
 
 // Pages of the curtain wizard, one a step.
-Piece MeasurePage(Builder& build, MainCWizard& wizard);
-Piece FabricPage(Builder& build, MainCWizard& wizard);
-Piece TapePage(Builder& build, MainCWizard& wizard);
-Piece LiningPage(Builder& build, MainCWizard& wizard);
-Piece TrimsPage(Builder& build, MainCWizard& wizard);
-Piece LabourPage(Builder& build, MainCWizard& wizard);
-Piece TotalsPage(Builder& build, MainCWizard& wizard);
+Piece MeasurePage(Builder& build, curtain_wizard::MainCWizard& wizard);
+Piece FabricPage(Builder& build, curtain_wizard::MainCWizard& wizard);
+Piece TapePage(Builder& build, curtain_wizard::MainCWizard& wizard);
+Piece LiningPage(Builder& build, curtain_wizard::MainCWizard& wizard);
+Piece TrimsPage(Builder& build, curtain_wizard::MainCWizard& wizard);
+Piece LabourPage(Builder& build, curtain_wizard::MainCWizard& wizard);
+Piece TotalsPage(Builder& build, curtain_wizard::MainCWizard& wizard);
 // The editor of the option lists, in place of the steps.
-Piece WizardListsPage(Builder& build, MainCWizard& wizard);
+Piece WizardListsPage(Builder& build, curtain_wizard::MainCWizard& wizard);
 
 // Lines whose captions are at least so many digits wide, so that the fields of a page stand in one column.
 Piece Lines(Builder& build, int digits, const std::vector<FieldLine>& lines);
@@ -30,6 +33,9 @@ Piece Results(Builder& build, int digits, const std::vector<FieldLine>& lines);
 
 // A quiet text that changes with the screen.
 Piece FollowingText(Builder& build, std::function<std::string()> text);
+
+// A field with the name by which it is read aloud, where no caption of a line says it.
+Piece Named(Builder& build, TextField& field, const Look& look, std::string_view name);
 
 // A quiet explanation, broken into lines where it must be.
 Piece Advice(Builder& build, std::string_view text);
@@ -42,4 +48,4 @@ inline Look Measured(const char* unit, int width = 9) {
   return {.width = width, .number = true, .unit = unit};
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

@@ -1,29 +1,32 @@
 #include "curtain_wizard/wizard.h"
+#include "desktop/flow_row.h"
 #include "desktop/forms/wizard_steps.h"
 
-namespace tarvane {
+namespace tarvane::desktop {
 namespace {
 
 constexpr int kCaptions = 26;  // digits, for the longest caption
 
 // One of the rows of the lining step.
 struct LiningRow {
-  TickBox MainCWizard::*needed;
+  TickBox curtain_wizard::MainCWizard::*needed;
   const char* name_caption;
-  TextField MainCWizard::*name;
-  TextField MainCWizard::*amount;
-  DropDownList MainCWizard::*price;
-  TextField MainCWizard::*cost;
+  TextField curtain_wizard::MainCWizard::*name;
+  TextField curtain_wizard::MainCWizard::*amount;
+  DropDownList curtain_wizard::MainCWizard::*price;
+  TextField curtain_wizard::MainCWizard::*cost;
 };
 
 constexpr LiningRow kLiningRows[] = {
-    {&MainCWizard::LiningNeeded, "Lining Fabric Name", &MainCWizard::TxtLiningName,
-     &MainCWizard::LiningAmount, &MainCWizard::LiningPrice, &MainCWizard::LiningCost},
-    {&MainCWizard::InterliningNeeded, "Interlining Fabric Name", &MainCWizard::TxtInterliningName,
-     &MainCWizard::InterliningAmount, &MainCWizard::InterliningPrice, &MainCWizard::InterliningCost},
+    {&curtain_wizard::MainCWizard::LiningNeeded, "Lining Fabric Name",
+     &curtain_wizard::MainCWizard::TxtLiningName, &curtain_wizard::MainCWizard::LiningAmount,
+     &curtain_wizard::MainCWizard::LiningPrice, &curtain_wizard::MainCWizard::LiningCost},
+    {&curtain_wizard::MainCWizard::InterliningNeeded, "Interlining Fabric Name",
+     &curtain_wizard::MainCWizard::TxtInterliningName, &curtain_wizard::MainCWizard::InterliningAmount,
+     &curtain_wizard::MainCWizard::InterliningPrice, &curtain_wizard::MainCWizard::InterliningCost},
 };
 
-Piece LiningGroup(Builder& build, MainCWizard& wizard, const LiningRow& row) {
+Piece LiningGroup(Builder& build, curtain_wizard::MainCWizard& wizard, const LiningRow& row) {
   const Piece unit =
       FollowingText(build, [&wizard] { return std::string(wizard.LiningByWidths.on() ? "m" : "widths"); });
   return build.Column(
@@ -42,20 +45,22 @@ Piece LiningGroup(Builder& build, MainCWizard& wizard, const LiningRow& row) {
 
 }  // namespace
 
-Piece FabricPage(Builder& build, MainCWizard& wizard) {
+Piece FabricPage(Builder& build, curtain_wizard::MainCWizard& wizard) {
+  const Piece price = FlowRow({Named(build, wizard.FabricPrice, kMoney, "Price Per Metre Exc Vat/Tax"),
+                               build.Tick(wizard.FabricPriceExVat)});
   return build.Column({
       Lines(build, kCaptions,
             {
                 {"Fabric Name", {{wizard.FabricName}, {wizard.CmdGetFabricFromDatabase}}},
                 {"Metres required", {{wizard.FabricMetres, Measured("m")}}},
-                {"Price Per Metre Exc Vat/Tax", {{wizard.FabricPrice, kMoney}, {wizard.FabricPriceExVat}}},
+                {"Price Per Metre Exc Vat/Tax", {{price.Grow()}}},
             }),
       Results(build, kCaptions, {{"Costing Exc Vat/Tax", {{wizard.FabricCost, kMoneyResult}}}}),
       Builder::Spring(),
   });
 }
 
-Piece TapePage(Builder& build, MainCWizard& wizard) {
+Piece TapePage(Builder& build, curtain_wizard::MainCWizard& wizard) {
   const Piece tape = build.Group(
       "Tape",
       {
@@ -85,7 +90,7 @@ Piece TapePage(Builder& build, MainCWizard& wizard) {
   return build.Column({tape, Builder::Gap(2), tie_backs, Builder::Spring()});
 }
 
-Piece LiningPage(Builder& build, MainCWizard& wizard) {
+Piece LiningPage(Builder& build, curtain_wizard::MainCWizard& wizard) {
   return build.Column({
       Advice(build, "The lining amount is based on the amount of Fabric that is needed for the Curtains. "),
       build.Row({build.Text("Priced by"), build.Tick(wizard.LiningByWidths), Builder::Spring()}),
@@ -97,7 +102,7 @@ Piece LiningPage(Builder& build, MainCWizard& wizard) {
   });
 }
 
-Piece LabourPage(Builder& build, MainCWizard& wizard) {
+Piece LabourPage(Builder& build, curtain_wizard::MainCWizard& wizard) {
   constexpr int kLabourCaptions = 34;
   return build.Column({
       Advice(build,
@@ -120,4 +125,4 @@ Piece LabourPage(Builder& build, MainCWizard& wizard) {
   });
 }
 
-}  // namespace tarvane
+}  // namespace tarvane::desktop

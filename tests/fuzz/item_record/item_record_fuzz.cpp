@@ -1,11 +1,10 @@
-#include <cstdint>
-#include <cstdlib>
 #include <string>
 
 #include "curtain_wizard/costing.h"
 #include "curtain_wizard/item_record.h"
 #include "curtain_wizard/window_sketch.h"
 #include "curtain_wizard/wizard.h"
+#include "fuzz/require.h"
 #include "job/job_screen.h"
 #include "job/room_text.h"
 #include "support/silent_shop.h"
@@ -15,12 +14,10 @@
 namespace tarvane {
 namespace {
 
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
+using curtain_wizard::MainCWizard;
 
 void OpenItem(SilentShop& shop, const std::string& record, const std::function<void(MainCWizard&)>& step) {
-  MainCWizard wizard(shop.host, shop.job);
+  MainCWizard wizard(shop.host, shop.shop, shop.job);
   wizard.RoomIndex.SetText("0");
   wizard.Txtinfo.SetText(record);
   wizard.TxtRow.SetText("1");
@@ -33,8 +30,8 @@ void WalkThrough(MainCWizard& wizard) {
   wizard.AddTrims.UserSet(true);
   while (wizard.step() < MainCWizard::kSteps - 1) wizard.CmdNext.UserPress();
   wizard.CmdGetInfo.UserPress();
-  Require(!CostSoFar(wizard).empty());
-  const WindowSketch sketch = SketchWindow(wizard);
+  Require(!curtain_wizard::CostSoFar(wizard).empty());
+  const curtain_wizard::WindowSketch sketch = curtain_wizard::SketchWindow(wizard);
   Require(sketch.track >= 0 && sketch.widths >= 0 && sketch.cut_length >= 0);
   wizard.CmdUpdateAndClose.UserPress();
   Require(wizard.is_closed());
@@ -42,19 +39,19 @@ void WalkThrough(MainCWizard& wizard) {
 
 void Check(SilentShop& shop, const std::string& record) {
   std::string restored;
-  OpenItem(shop, record, [&](MainCWizard& wizard) { restored = ItemRecord(wizard); });
+  OpenItem(shop, record, [&](MainCWizard& wizard) { restored = curtain_wizard::ItemRecord(wizard); });
   // Fields cut at "~" hold none, so that the record is whole again.
   if (!record.empty()) {
-    Require(SplitItemRecord(restored).size() == kItemRecordFields);
+    Require(curtain_wizard::SplitItemRecord(restored).size() == curtain_wizard::kItemRecordFields);
     std::string again;
-    OpenItem(shop, restored, [&](MainCWizard& wizard) { again = ItemRecord(wizard); });
+    OpenItem(shop, restored, [&](MainCWizard& wizard) { again = curtain_wizard::ItemRecord(wizard); });
     Require(again == restored);
   }
 
   HeldGrid& grid = shop.job.RoomItemGrid[0];
   grid.SetRows({HeldGrid::Row{"1", "0.00", "", record, "CurtainWizard", "1", ""}});
   shop.job.RewriteRoomText(0);
-  OpenItem(shop, grid.Cell(1, kInfomationColumn), [&](MainCWizard& wizard) {
+  OpenItem(shop, grid.Cell(1, job::kInfomationColumn), [&](MainCWizard& wizard) {
     if (!record.empty()) WalkThrough(wizard);
   });
   shop.job.LoadRoom();
@@ -65,6 +62,6 @@ void Check(SilentShop& shop, const std::string& record) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static tarvane::SilentShop shop;
-  tarvane::Check(shop, std::string(reinterpret_cast<const char*>(data), size));
+  tarvane::Check(shop, std::string(tarvane::InputText(data, size)));
   return 0;
 }

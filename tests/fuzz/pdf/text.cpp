@@ -1,14 +1,14 @@
 // The text operations: the bytes choose operations and give their texts and numbers. Nothing but a
 // measurement's fault may come out of them, and the page's brackets and text objects must stay paired.
-#include <cstdint>
-#include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <string>
 #include <string_view>
 
+#include "fuzz/require.h"
 #include "pdf/text_encoding.h"
 #include "pdf/tqr_pdf.h"
-#include "text_number/fault.h"
+#include "text/fault.h"
 
 namespace {
 
@@ -49,61 +49,52 @@ void CheckString(const std::string& body) {
   int depth = 0;
   for (size_t at = 0; at < body.size(); ++at) {
     if (body[at] == '\\') {
-      if (++at == body.size()) std::abort();
+      tarvane::Require(++at < body.size());
     } else if (body[at] == '(') {
       ++depth;
-    } else if (body[at] == ')' && --depth < 0) {
-      std::abort();
+    } else if (body[at] == ')') {
+      tarvane::Require(--depth >= 0);
     }
   }
-  if (depth != 0) std::abort();
+  tarvane::Require(depth == 0);
 }
 
-void OneOperation(tqrPDF& document, Input& input) {
-  switch (input.Byte() % 12) {
-    case 0:
-      return document.PDFTextOut(input.Text(), input.Number(), input.Number());
-    case 1:
-      return document.PDFCell(input.Text(), input.Number(), input.Number(), input.Text());
-    case 2:
-      return document.PDFSetFont(input.AnySetting(), input.Number(), input.Byte());
-    case 3:
-      return document.PDFSetRotation(input.Number());
-    case 4:
-      return document.PDFSetAlignement(input.AnySetting());
-    case 5:
-      return document.PDFSetBorder(input.AnySetting());
-    case 6:
-      return document.PDFSetFill(input.Byte() % 2 == 0);
-    case 7:
-      return document.PDFSetTextColor(input.Byte() % 2 == 0 ? Color(input.Text()) : Color(input.Number()));
-    case 8:
-      return document.PDFSetUnit(input.AnySetting());
-    case 9:
-      return document.PDFSetCellMargin(input.Number());
-    case 10:
-      return document.PDFNewPage();
-    default:
-      document.PDFGetStringWidth(input.Text(), input.Text(), input.Number());
-  }
-}
+using Operation = void (*)(tqrPDF&, Input&);
+constexpr Operation kOperations[] = {
+    [](tqrPDF& pdf, Input& in) { pdf.PDFTextOut(in.Text(), in.Number(), in.Number()); },
+    [](tqrPDF& pdf, Input& in) { pdf.PDFCell(in.Text(), in.Number(), in.Number(), in.Text()); },
+    [](tqrPDF& pdf, Input& in) { pdf.PDFSetFont(in.AnySetting(), in.Number(), in.Byte()); },
+    [](tqrPDF& pdf, Input& in) { pdf.PDFSetRotation(in.Number()); },
+    [](tqrPDF& pdf, Input& in) { pdf.PDFSetAlignement(in.AnySetting()); },
+    [](tqrPDF& pdf, Input& in) { pdf.PDFSetBorder(in.AnySetting()); },
+    [](tqrPDF& pdf, Input& in) { pdf.PDFSetFill(in.Byte() % 2 == 0); },
+    [](tqrPDF& pdf, Input& in) {
+      pdf.PDFSetTextColor(in.Byte() % 2 == 0 ? Color(in.Text()) : Color(in.Number()));
+    },
+    [](tqrPDF& pdf, Input& in) { pdf.PDFSetUnit(in.AnySetting()); },
+    [](tqrPDF& pdf, Input& in) { pdf.PDFSetCellMargin(in.Number()); },
+    [](tqrPDF& pdf, Input&) { pdf.PDFNewPage(); },
+    [](tqrPDF& pdf, Input& in) { pdf.PDFGetStringWidth(in.Text(), in.Text(), in.Number()); }};
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   const std::string text(reinterpret_cast<const char*>(data), size);
-  CheckString(StringBody(text));
   const std::string codes = ToWinAnsi(text);
-  CheckString(EscapePageText(codes));
-  if (codes.size() > size) std::abort();
+  for (const std::string& body : {StringBody(codes), StringBody(ToPdfDoc(text)), StringBody(ToUri(text)),
+                                  EscapePageText(codes), EscapeString(codes)}) {
+    CheckString(body);
+  }
+  tarvane::Require(codes.size() <= size);
 
   Input input(data, size);
   tqrPDF document;
+  document.PDFStrict(input.Byte() % 2 == 1);
   document.PDFPathConfiguration(TARVANE_DATA_DIR "/Fonts");
   document.PDFBeginDoc();
   while (!input.empty()) {
     try {
-      OneOperation(document, input);
+      kOperations[static_cast<size_t>(input.Byte()) % std::size(kOperations)](document, input);
     } catch (const tarvane::Fault&) {
     }
   }

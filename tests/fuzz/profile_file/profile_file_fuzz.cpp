@@ -1,25 +1,13 @@
 // Settings and list files. The first three lines are a section, a key and a value, all behind them the file.
 #include <algorithm>
-#include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
+#include "fuzz/require.h"
 #include "store/data_files.h"
 
 namespace tarvane {
 namespace {
-
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
-
-std::string_view TakeLine(std::string_view& input) {
-  const std::size_t end = std::min(input.find('\n'), input.size());
-  const std::string_view line = input.substr(0, end);
-  input.remove_prefix(std::min(end + 1, input.size()));
-  return line;
-}
 
 // A name as the program uses them.
 bool IsPlainName(std::string_view name) {
@@ -56,7 +44,7 @@ void CheckLines(std::string_view file) {
 }  // namespace tarvane
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  std::string_view file(reinterpret_cast<const char*>(data), size);
+  std::string_view file = tarvane::InputText(data, size);
   tarvane::CheckLines(file);
   const std::string_view section = tarvane::TakeLine(file);
   const std::string_view key = tarvane::TakeLine(file);

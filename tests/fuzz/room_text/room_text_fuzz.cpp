@@ -1,17 +1,13 @@
-#include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "fuzz/require.h"
 #include "job/room_text.h"
+#include "text/trim.h"
 
 namespace tarvane {
 namespace {
-
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
 
 // Reads item lines the plain way, letter by letter, as the format is written up in docs/job-record.md.
 std::vector<HeldGrid::Row> ReadPlainly(std::string_view text, std::size_t fields) {
@@ -44,33 +40,32 @@ std::vector<HeldGrid::Row> ReadPlainly(std::string_view text, std::size_t fields
 }
 
 bool IsWellFormed(const std::vector<HeldGrid::Row>& rows) {
+  const auto parts_a_line = [](const std::string& cell) { return cell.find_first_of("|\n") != cell.npos; };
   for (const HeldGrid::Row& row : rows) {
-    for (const std::string& cell : row) {
-      if (cell.find_first_of("|\n") != std::string::npos) return false;
-    }
+    if (std::ranges::any_of(row, parts_a_line)) return false;
   }
   // The first field's leading spaces would go with the outer spaces of the text.
   return rows.empty() || !rows.front()[1].starts_with(' ');
 }
 
-void Check(std::string_view text, const LineLayout& layout) {
-  const ItemLines lines(text, layout);
+void Check(std::string_view text, const job::LineLayout& layout) {
+  const job::ItemLines lines(text, layout);
   const auto rows = lines.Rows();
   Require(rows == ReadPlainly(text, layout.fields));
   Require(!lines.RunningTotal("0.00").empty());
-  CompileRoomSummary(rows);
+  job::CompileRoomSummary(rows);
   if (!IsWellFormed(rows)) return;
-  const std::string written = WriteItemLines(rows, layout);
-  Require(ItemLines(written, layout).Rows() == rows);
-  Require(WriteItemLines(ItemLines(written, layout).Rows(), layout) == written);
+  const std::string written = job::WriteItemLines(rows, layout);
+  Require(job::ItemLines(written, layout).Rows() == rows);
+  Require(job::WriteItemLines(job::ItemLines(written, layout).Rows(), layout) == written);
 }
 
 }  // namespace
 }  // namespace tarvane
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const std::string text(reinterpret_cast<const char*>(data), size);
-  tarvane::Check(text, tarvane::kRoomItemLayout);
-  tarvane::Check(text, tarvane::kSingleItemLayout);
+  for (const auto& layout : {tarvane::job::kRoomItemLayout, tarvane::job::kSingleItemLayout}) {
+    tarvane::Check(tarvane::InputText(data, size), layout);
+  }
   return 0;
 }

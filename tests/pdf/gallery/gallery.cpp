@@ -208,7 +208,8 @@ void LandscapePage(tqrPDF& document) {
 }  // namespace
 
 void WriteGallery(const GalleryFiles& files, MessageSink& messages) {
-  tqrPDF document({&messages, [] { return CalendarTime{2024, 2, 29, 13, 5, 9}; }, {}, ""});
+  tqrPDF document({&messages, [] { return DateTime{MakeDay(2024, 2, 29), 13, 5, 9}; }, {}, ""});
+  document.PDFStrict(files.strict);
   document.PDFSetUnit(kPoint);
   document.PDFFormatPage(kA4);
   document.PDFOrientation(kPortrait);

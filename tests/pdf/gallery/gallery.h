@@ -10,6 +10,7 @@ struct GalleryFiles {
   std::string output;
   std::string fonts;   // folder of the metric files
   std::string images;  // folder of the sample JPEG files
+  bool strict = false;
 };
 
 // Writes one document that shows every operation, style, alignment and mode of the writer, and the watermark.

@@ -1,7 +1,8 @@
 #include <iostream>
+#include <string_view>
 
 #include "gallery.h"
-#include "text_number/fault.h"
+#include "text/fault.h"
 
 namespace {
 
@@ -17,13 +18,15 @@ class PrintedMessages : public tarvane::pdf::MessageSink {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 2) {
-    std::cerr << "usage: tarvane-pdf-gallery FILE.pdf\n";
+  const bool strict = argc == 3 && std::string_view(argv[1]) == "--strict";
+  if (argc != 2 && !strict) {
+    std::cerr << "usage: tarvane-pdf-gallery [--strict] FILE.pdf\n";
     return 2;
   }
   PrintedMessages messages;
   try {
-    tarvane::pdf::WriteGallery({argv[1], TARVANE_DATA_DIR "/Fonts", TARVANE_TEST_DATA "/images"}, messages);
+    tarvane::pdf::WriteGallery(
+        {argv[argc - 1], TARVANE_DATA_DIR "/Fonts", TARVANE_TEST_DATA "/images", strict}, messages);
   } catch (const tarvane::Fault& fault) {
     std::cerr << fault.what() << '\n';
     return 1;
