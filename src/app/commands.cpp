@@ -4,6 +4,7 @@
 #include "app/main_screen.h"
 #include "app/show.h"
 #include "app/splash.h"
+#include "catalogues/suppliers.h"
 #include "tools/list_admin.h"
 #include "tools/options.h"
 
@@ -67,7 +68,7 @@ const std::vector<Command>& Commands() {
       {kEntry, "MunData", "munPay",             -1, "Making Payment", "", kNotBuilt},
       {kEntry, "MunData", "MunCustomersDetails", -1, "&Customers Records", "", kNotBuilt},
       {kEntry, "MunData", "MunFabricDatabase",  -1, "Products Database", "", kNotBuilt},
-      {kEntry, "MunData", "MunSuppliersData",   -1, "Suppliers Database", "", kNotBuilt},
+      {kEntry, "MunData", "MunSuppliersData",   -1, "Suppliers Database", "", Show<catalogues::frmSuppliers2>},
       {kEntry, "MunData", "munTem",             -1, "Wizard Templates Database", "", kNotBuilt},
       {kEntry, "MunData", "MunFrmPopUp1",       -1, "Pricing Database for Curtain Wizard", "", kNotBuilt},
       {kEntry, "MunData", "MunAccressDatabase", -1, "Accressories Database", "", kNotBuilt},
@@ -113,7 +114,7 @@ const std::vector<Command>& Commands() {
       {kTool,  "", "Estimate",        -1, "", "Curtain Wizard", Run<&Main::ShowQuickWizard>},
       {kTool,  "", "Cdatabase",       -1, "", "Customers Database", kNotBuilt},
       {kTool,  "", "products",        -1, "", "Products Database", kNotBuilt},
-      {kTool,  "", "Sdatabase",       -1, "", "Suppliers Database", kNotBuilt},
+      {kTool,  "", "Sdatabase",       -1, "", "Suppliers Database", Show<catalogues::frmSuppliers2>},
       {kTool,  "", "PricingDatabase", -1, "", "Pricing Database", kNotBuilt},
 
       {kButton, "", "CmdSize",              -1, "&Close Record", "", Run<&Main::CloseRecord>},
@@ -126,7 +127,7 @@ const std::vector<Command>& Commands() {
       {kButton, "", "Command10",            -1, "Pricing Database", "", kNotBuilt},
       {kButton, "", "CmdCustomersDatabase", -1, "&Customer Database F3", "", kNotBuilt},
       {kButton, "", "Command4",             -1, "&Your Product Database F4", "", kNotBuilt},
-      {kButton, "", "CmdSuppliers",         -1, "Your &Suppliers Database", "", kNotBuilt},
+      {kButton, "", "CmdSuppliers",         -1, "Your &Suppliers Database", "", Show<catalogues::frmSuppliers2>},
       {kButton, "", "Command2",             -1, "&Quick Curtain Wizard", "", Run<&Main::ShowQuickWizard>},
       {kButton, "", "CmdGetDetails",        -1, "&Get Customer Details", "", kNotBuilt},
       {kButton, "", "SendEmail",            -1, "Email", "", Run<&Main::SendMail>},

@@ -77,7 +77,7 @@ void MainCWizard::OpenLink() {
     if (!AskYesNo("Save Data.", "This job has changed, Do you want to save?")) return;
     SaveLink();
   }
-  const auto file = host().ChooseFile(FileChoice::kOpen, "Open Link...", kFilter);
+  const auto file = host().ChooseFile(FileChoice::kOpen, "Open Link...", kFilter, "");
   if (!file) return;
   ReadLink(*file);
   link_file_ = *file;
@@ -93,7 +93,7 @@ void MainCWizard::SaveLink() {
 }
 
 void MainCWizard::SaveLinkAs() {
-  const auto file = host().ChooseFile(FileChoice::kSave, "Save As...", kFilter);
+  const auto file = host().ChooseFile(FileChoice::kSave, "Save As...", kFilter, "");
   if (!file) return;
   WriteLink(*file);
   link_file_ = *file;

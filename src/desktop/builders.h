@@ -83,10 +83,11 @@ struct TableColumn {
 // the heading.
 struct TableLook {
   std::vector<TableColumn> columns;
-  std::string_view wide = {};  // the column that takes the spare room; "": the last one
-  std::string_view name = {};  // for readers, where no heading stands over it
-  Button* insert = nullptr;    // what the keys Insert and Delete press in the table; they do it as a toolbar
-  Button* remove = nullptr;    // button does, so that the focus stays; null: nothing
+  std::string_view wide = {};   // the column that takes the spare room; "": the last one
+  std::string_view name = {};   // for readers, where no heading stands over it
+  std::string_view empty = {};  // what stands there while there are no rows
+  Button* insert = nullptr;     // what the keys Insert and Delete press in the table; they do it as a toolbar
+  Button* remove = nullptr;     // button does, so that the focus stays; null: nothing
 };
 
 // Makes the widgets of a form out of the controls of its screen, and arranges them. Widgets get the focus in
@@ -109,6 +110,8 @@ class Builder {
   Piece Records(RecordBar& bar);
   // Category, text and buttons in a row, or in two where there is no room for that.
   Piece Find(Finder& finder);
+  // The Down key leads from a field that was put into a list.
+  void LeadDown(const Control& from, const Piece& list);
   Piece Table(Grid& grid, const TableLook& look = {});
 
   // A text that never changes.

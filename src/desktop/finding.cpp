@@ -101,7 +101,28 @@ Piece StepButton(Form& form, Button& button, const Step& step) {
   return {made};
 }
 
+// Down leads from the search text into the list.
+class DownIntoList : public QObject {
+ public:
+  DownIntoList(QObject* text, QWidget* list) : QObject(text), list_(list) { text->installEventFilter(this); }
+
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress) return false;
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (key->key() != Qt::Key_Down || key->modifiers() != Qt::NoModifier) return false;
+    list_->setFocus(Qt::TabFocusReason);
+    return true;
+  }
+
+ private:
+  QWidget* list_;
+};
+
 }  // namespace
+
+void Builder::LeadDown(const Control& from, const Piece& list) {
+  if (QObject* field = form_->WidgetOf(from)) Make<DownIntoList>(field, list.widget);
+}
 
 Piece Builder::Records(RecordBar& bar) {
   Pieces pieces;

@@ -16,14 +16,13 @@ class EntryModel : public QAbstractListModel {
   EntryModel(const ListBox& list, QObject* parent) : QAbstractListModel(parent), list_(&list) { Reset(); }
   void Reset() {
     beginResetModel();
-    rows_ = static_cast<int>(list_->entries().size());
+    rows_ = list_->EntryCount();
     endResetModel();
   }
   int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows_; }
   QVariant data(const QModelIndex& index, int role) const override {
-    const auto at = static_cast<std::size_t>(index.row());
-    if (role != Qt::DisplayRole || at >= list_->entries().size()) return {};
-    return ToQt(list_->entries()[at]);
+    if (role != Qt::DisplayRole || index.row() >= rows_) return {};
+    return ToQt(list_->Entry(index.row()));
   }
 
  private:

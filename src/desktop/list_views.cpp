@@ -299,6 +299,7 @@ QTableView* MakeTable(Form& form, Grid& grid, const TableLook& look) {
     SetRowHeight(table);
     MeasureColumns(table, *model, grid);
   });
+  table->SetEmptyText(ToQt(look.empty));
   table->insert = Pressing(form, grid, look.insert);
   table->remove = Pressing(form, grid, look.remove);
   table->picked = [&form, &grid](int row) {

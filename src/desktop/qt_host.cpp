@@ -302,10 +302,14 @@ std::optional<std::string> QtHost::Input(std::string_view title, std::string_vie
 }
 
 std::optional<std::filesystem::path> QtHost::ChooseFile(FileChoice kind, std::string_view title,
-                                                        std::string_view filter) {
-  const QString chosen = kind == FileChoice::kOpen
-                             ? QFileDialog::getOpenFileName(TopWindow(), ToQt(title), {}, QtFilter(filter))
-                             : QFileDialog::getSaveFileName(TopWindow(), ToQt(title), {}, QtFilter(filter));
+                                                        std::string_view filter, std::string_view suggested) {
+  const QDir documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  const QString start = suggested.empty() ? QString() : documents.filePath(ToQt(suggested));
+  QString kind_chosen;
+  QString chosen =
+      kind == FileChoice::kOpen
+          ? QFileDialog::getOpenFileName(TopWindow(), ToQt(title), start, QtFilter(filter), &kind_chosen)
+          : QFileDialog::getSaveFileName(TopWindow(), ToQt(title), start, QtFilter(filter), &kind_chosen);
   if (chosen.isEmpty()) return std::nullopt;
   return std::filesystem::path(chosen.toStdU16String());
 }

@@ -33,7 +33,8 @@ class QtHost : public Host {
   std::optional<std::string> Input(std::string_view title, std::string_view prompt,
                                    std::string_view initial) override;
   std::optional<std::filesystem::path> ChooseFile(FileChoice kind, std::string_view title,
-                                                  std::string_view filter) override;
+                                                  std::string_view filter,
+                                                  std::string_view suggested) override;
   void Beep() override;
   void SetBusy(bool busy) override;
   DateTime Now() override;

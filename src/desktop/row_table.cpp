@@ -37,6 +37,11 @@ RowTable::RowTable() {
   if (auto* corner = findChild<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly)) corner->hide();
 }
 
+void RowTable::SetEmptyText(const QString& text) {
+  empty_text_ = text;
+  viewport()->update();
+}
+
 int RowTable::Rows() const { return model() == nullptr ? 0 : model()->rowCount(); }
 int RowTable::RowHeight() const { return std::max(1, verticalHeader()->defaultSectionSize()); }
 int RowTable::WholeRows() const { return std::max(1, viewport()->height() / RowHeight()); }
@@ -129,10 +134,16 @@ void RowTable::PaintRow(QPainter& painter, QStyleOptionViewItem option, int row,
 }
 
 void RowTable::paintEvent(QPaintEvent* event) {
-  if (Rows() == 0) return;
+  QPainter painter(viewport());
+  if (Rows() == 0) {
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    const int margin = RowHeight();
+    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                     Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, empty_text_);
+    return;
+  }
   QStyleOptionViewItem option;
   initViewItemOption(&option);
-  QPainter painter(viewport());
   const QRect area = event->rect();
   const QHeaderView* header = horizontalHeader();
   const int left = std::max(0, header->visualIndexAt(area.left()));

@@ -11,6 +11,9 @@ class RowTable : public QTableView {
  public:
   RowTable();
 
+  // What stands in its middle while there are no rows.
+  void SetEmptyText(const QString& text);
+
   QRect visualRect(const QModelIndex& index) const override;
   QModelIndex indexAt(const QPoint& point) const override;
   void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
@@ -34,6 +37,7 @@ class RowTable : public QTableView {
   void PaintRow(QPainter& painter, QStyleOptionViewItem option, int row, int left, int right) const;
 
   bool arranging_ = false;
+  QString empty_text_;
 };
 
 }  // namespace tarvane::desktop

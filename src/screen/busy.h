@@ -16,4 +16,23 @@ class Busy {
   Host& host_;
 };
 
+// Tells how far something has come, while it lives. `what` is told with it ("Writing the list").
+class Progress {
+ public:
+  Progress(Host& host, std::string_view what, std::int64_t total) : host_(host), what_(what), total_(total) {}
+  ~Progress() { host_.EndProgress(); }
+  Progress(const Progress&) = delete;
+  Progress& operator=(const Progress&) = delete;
+
+  // False where the worker wants it to stop. May be called as often as one likes.
+  bool Step(std::int64_t done) { return done % kStepsUnseen != 0 || host_.ShowProgress(what_, done, total_); }
+
+ private:
+  static constexpr std::int64_t kStepsUnseen = 256;
+
+  Host& host_;
+  std::string what_;
+  std::int64_t total_;
+};
+
 }  // namespace tarvane

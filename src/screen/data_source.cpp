@@ -1,8 +1,10 @@
 #include "screen/data_source.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "text/fault.h"
+#include "text/fold.h"
 
 namespace tarvane {
 
@@ -35,6 +37,11 @@ void DataSource::Bind(TickBox& box, std::string column) {
   bindings_.push_back({nullptr, &box, std::move(column), -1});
 }
 
+bool DataSource::IsBound(std::string_view column) const {
+  return std::ranges::any_of(bindings_,
+                             [column](const Binding& binding) { return EqualNames(binding.column, column); });
+}
+
 void DataSource::Attach(TableGrid& grid, std::vector<TableGrid::Column> columns, std::string first_heading) {
   grid.SetSource(&rows_, std::move(columns), std::move(first_heading));
   grids_.push_back(&grid);
@@ -61,6 +68,15 @@ void DataSource::Save() {
   const bool adding = rows_.IsOpen() && rows_.IsAdding();
   rows_.Update();
   if (!adding) return;
+  LoadFields();
+  RunReposition();
+}
+
+void DataSource::Leave() {
+  if (!rows_.IsOpen()) return;
+  const bool adding = rows_.IsAdding();
+  rows_.Leave();
+  if (!adding || !rows_.HasRow()) return;
   LoadFields();
   RunReposition();
 }

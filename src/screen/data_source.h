@@ -28,6 +28,7 @@ class DataSource {
   // Fields that show a text column get its limit of 255 characters from `limit`; memo fields pass 0.
   void Bind(TextField& field, std::string column, int limit = 255);
   void Bind(TickBox& box, std::string column);
+  bool IsBound(std::string_view column) const;
   // A grid that draws the rows of this source and moves it; TableGrid::SetSource's arguments.
   void Attach(TableGrid& grid, std::vector<TableGrid::Column> columns = {}, std::string first_heading = "");
 
@@ -40,6 +41,10 @@ class DataSource {
   // Commits what waits. A new row gets its key and its place: the fields are filled again, and the reposition
   // rules run.
   void Save();
+
+  // The same as the row is to be left: a new one in which nothing was put but its defaults goes
+  // (RowSet::SetUntouched).
+  void Leave();
 
   // While `step` runs, fields that are set don't reach the row: for what is worked out for a mere look.
   // Fields and row may then differ; WriteFields makes the row what the fields show.

@@ -1,6 +1,8 @@
 #include "screen/field.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "screen/screen.h"
 
@@ -67,7 +69,31 @@ void DropDownList::UserPick(std::size_t entry) {
   screen().Guard([this] { Run(picked_); });
 }
 
+int ListBox::EntryCount() const {
+  const std::int64_t count = count_ ? count_() : static_cast<std::int64_t>(entries_.size());
+  return static_cast<int>(std::min<std::int64_t>(count, std::numeric_limits<int>::max()));
+}
+
+std::string ListBox::Entry(int entry) const {
+  if (entry < 0 || entry >= EntryCount()) return {};
+  return line_ ? line_(entry) : entries_[static_cast<std::size_t>(entry)];
+}
+
+void ListBox::SetLines(Count count, Line line) {
+  SetEntries({});
+  count_ = std::move(count);
+  line_ = std::move(line);
+  LinesChanged();
+}
+
+void ListBox::LinesChanged() {
+  selected_ = -1;
+  Notify(Aspect::kEntries);
+}
+
 void ListBox::SetEntries(std::vector<std::string> entries) {
+  count_ = nullptr;
+  line_ = nullptr;
   entries_ = std::move(entries);
   selected_ = -1;
   Notify(Aspect::kEntries);
@@ -86,7 +112,7 @@ void ListBox::RemoveEntry(std::size_t entry) {
 }
 
 void ListBox::Select(int entry) {
-  if (entry < -1 || entry >= static_cast<int>(entries_.size()) || entry == selected_) return;
+  if (entry < -1 || entry >= EntryCount() || entry == selected_) return;
   selected_ = entry;
   Notify(Aspect::kSelection);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -97,12 +98,24 @@ class DropDownList : public TextField {
   Rules picked_;
 };
 
-// A list that is always open; one entry may be selected, -1 for none.
+// A list that is always open; one entry may be selected, -1 for none. It holds its entries, or has them made
+// as they are looked at (SetLines).
 class ListBox : public Control {
  public:
   ListBox(Home home, std::string name, int index = -1) : Control(home, std::move(name), index) {}
   ControlKind kind_of() override { return this; }
 
+  int EntryCount() const;
+  std::string Entry(int entry) const;  // "" outside
+
+  // Entries that are made on each look, from 0 to below the count. Holds until SetEntries.
+  using Count = std::function<std::int64_t()>;
+  using Line = std::function<std::string(std::int64_t)>;
+  void SetLines(Count count, Line line);  // selects none
+  // There are others now: faces draw anew. Selects none.
+  void LinesChanged();
+
+  // Those that it holds.
   const std::vector<std::string>& entries() const { return entries_; }
   void SetEntries(std::vector<std::string> entries);  // selects none
   void AddEntry(std::string entry);
@@ -117,6 +130,8 @@ class ListBox : public Control {
 
  private:
   std::vector<std::string> entries_;
+  Count count_;  // with line_: none where entries_ hold
+  Line line_;
   int selected_ = -1;
   Rules picked_;
   Rules opened_;

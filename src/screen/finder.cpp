@@ -34,7 +34,7 @@ Finder::Finder(Home home, DataSource& source, std::string_view table, std::vecto
       table_(table),
       categories_(std::move(categories)),
       look_(look),
-      before_([this] { source_.Save(); }) {
+      before_([this] { source_.Leave(); }) {
   std::vector<std::string> captions;
   for (const Category& category : categories_) captions.emplace_back(category.caption);
   CboFabSearch.SetEntries(std::move(captions));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -52,11 +53,21 @@ class Host {
   // Nothing where the worker cancels.
   virtual std::optional<std::string> Input(std::string_view title, std::string_view prompt,
                                            std::string_view initial) = 0;
-  // `filter`: "Name (*.ext)|*.ext"; may be empty. Nothing where the worker cancels.
+  // `filter`: "Name (*.ext)|*.ext", further kinds behind another |; may be empty. `suggested`: a file name to
+  // begin with, in the worker's documents; may be empty. Nothing where the worker cancels. Before a file that
+  // is there is chosen to be written over, the worker has been asked.
   virtual std::optional<std::filesystem::path> ChooseFile(FileChoice kind, std::string_view title,
-                                                          std::string_view filter) = 0;
+                                                          std::string_view filter,
+                                                          std::string_view suggested) = 0;
   virtual void Beep() = 0;
   virtual void SetBusy(bool busy) = 0;
+  // How far something has come that takes long (Progress in busy.h). A face shows it once it has taken more
+  // than a second. False where the worker wants it to stop.
+  virtual bool ShowProgress(std::string_view what, std::int64_t done, std::int64_t total) {
+    static_cast<void>(what), static_cast<void>(done), static_cast<void>(total);
+    return true;
+  }
+  virtual void EndProgress() {}
 
   virtual DateTime Now() = 0;
   virtual int RandomDigit() = 0;  // 0 to 9

@@ -6,13 +6,14 @@
 
 namespace tarvane {
 
-RecordBar::RecordBar(Home home, DataSource& source)
-    : Caption(home, "RecordBar"),
+RecordBar::RecordBar(Home home, DataSource& source, Look look)
+    : Caption(home, std::string(look.name)),
       CmdFirst(home, "CmdFirst", "|<"),
       CmdPrevious(home, "CmdPrevious", "<"),
       CmdNext(home, "CmdNext", ">"),
       CmdLast(home, "CmdLast", ">|"),
-      source_(source) {
+      source_(source),
+      look_(look) {
   Caption.AddAlias("Data1");
   CmdFirst.OnClicked([this] {
     if (source_.HasRow()) source_.rows().MoveFirst();
@@ -27,7 +28,8 @@ RecordBar::RecordBar(Home home, DataSource& source)
 
 void RecordBar::Step(int rows) {
   if (!source_.HasRow()) return;
-  if (source_.rows().IsAdding()) source_.Save();
+  if (source_.rows().IsAdding()) source_.Leave();
+  if (!source_.HasRow()) return;
   const std::int64_t wanted = source_.rows().AbsolutePosition() + rows;
   if (wanted < 0 || wanted >= source_.rows().RecordCount()) return;
   if (rows > 0) {
@@ -41,8 +43,9 @@ void RecordBar::Show() {
   // A count that can't be had must not keep the worker from moving on.
   IgnoreFaults([this] {
     const bool stands = source_.HasRow() && !source_.rows().IsAdding();
-    Caption.SetCaption(stands ? "Record: " + std::to_string(source_.rows().AbsolutePosition() + 1) + " of " +
-                                    std::to_string(source_.rows().RecordCount())
+    Caption.SetCaption(stands ? std::string(look_.before) +
+                                    std::to_string(source_.rows().AbsolutePosition() + 1) +
+                                    std::string(look_.between) + std::to_string(source_.rows().RecordCount())
                               : "");
   });
 }

@@ -95,7 +95,9 @@ void Interpreter::ChooseEntry(const Argument& address, Control& control, const s
         list.UserPick(FindEntry(address, control, text, list.entries()));
       },
       [&](ListBox& list) {
-        list.UserPick(static_cast<int>(FindEntry(address, control, text, list.entries())));
+        std::vector<std::string> entries;
+        for (int entry = 0; entry < list.EntryCount(); ++entry) entries.push_back(list.Entry(entry));
+        list.UserPick(static_cast<int>(FindEntry(address, control, text, entries)));
       },
       [&](TabStrip& tabs) {
         std::vector<std::string> captions;
@@ -122,8 +124,7 @@ void Interpreter::Choose(Arguments arguments) {
 void Interpreter::Select(Arguments arguments) {
   auto& control = Usable<Control>(arguments[0], "a grid");
   if (auto* list = As<ListBox>(control)) {
-    const auto last = static_cast<std::int64_t>(list->entries().size());
-    list->UserPick(static_cast<int>(RowOf(arguments[0], arguments[1], control, 1, last)) - 1);
+    list->UserPick(static_cast<int>(RowOf(arguments[0], arguments[1], control, 1, list->EntryCount())) - 1);
     return;
   }
   auto& grid = Usable<Grid>(arguments[0], "a grid or a list");
@@ -134,7 +135,7 @@ void Interpreter::Open(Arguments arguments) {
   auto& control = Usable<Control>(arguments[0], "a grid");
   if (auto* list = As<ListBox>(control)) {
     const std::int64_t row = WholeNumber(arguments[1]);
-    const bool on_entry = row >= 1 && row <= static_cast<std::int64_t>(list->entries().size());
+    const bool on_entry = row >= 1 && row <= list->EntryCount();
     list->UserOpen(on_entry ? static_cast<int>(row) - 1 : -1);
     return;
   }

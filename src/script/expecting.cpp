@@ -65,7 +65,7 @@ void Interpreter::ExpectEntries(Arguments arguments) {
   const Control& control = Any(arguments[0]);
   const std::size_t entries = VisitKind(
       control, [](const DropDownList& list) { return list.entries().size(); },
-      [](const ListBox& list) { return list.entries().size(); },
+      [](const ListBox& list) { return static_cast<std::size_t>(list.EntryCount()); },
       [&](const Control& other) -> std::size_t {
         throw ScriptError(fmt::format("{} is {}, not a list", Place(arguments[0], other), KindOf(other)));
       });

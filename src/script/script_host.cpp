@@ -88,7 +88,7 @@ std::optional<std::string> ScriptHost::Input(std::string_view title, std::string
 }
 
 std::optional<std::filesystem::path> ScriptHost::ChooseFile(FileChoice, std::string_view title,
-                                                            std::string_view) {
+                                                            std::string_view, std::string_view) {
   const QueuedAnswer answer = TakeAnswer("file choice", title, title);
   Tell(fmt::format("file {} {}", InQuotes(title), answer ? InQuotes(*answer) : "cancelled"));
   if (!answer) return std::nullopt;

@@ -10,17 +10,15 @@
 namespace tarvane::script {
 namespace {
 
-constexpr std::int64_t kTableRows = 200;
+constexpr int kTableRows = 200;
 
-std::string SelectedEntry(const ListBox& list) {
-  return list.selected() < 0 ? "" : list.entries().at(static_cast<std::size_t>(list.selected()));
-}
+std::string SelectedEntry(const ListBox& list) { return list.Entry(list.selected()); }
 
 using Tell = std::function<void(std::string_view)>;
 
 void TellGrid(std::string_view address, const Grid& grid, const Tell& tell) {
   std::int64_t rows = grid.RowCount();
-  if (As<TableGrid>(grid) != nullptr) rows = std::min(rows, kTableRows);
+  if (As<TableGrid>(grid) != nullptr) rows = std::min<std::int64_t>(rows, kTableRows);
   for (std::int64_t row = 0; row <= rows; ++row) {
     std::string line = fmt::format("{}[{}] =", address, row);
     for (int column = 0; column < grid.ColumnCount(); ++column)
@@ -52,8 +50,9 @@ void TellControl(std::string_view address, const Control& control, const Tell& t
   if (const auto* grid = As<Grid>(control)) return TellGrid(address, *grid, tell);
   tell(fmt::format("{} = {}", address, PrintedValueOf(control)));
   if (const auto* list = As<ListBox>(control)) {
-    for (std::size_t entry = 0; entry < list->entries().size(); ++entry) {
-      tell(fmt::format("{}[{}] = {}", address, entry + 1, InQuotes(list->entries()[entry])));
+    const int shown = list->entries().empty() ? std::min(list->EntryCount(), kTableRows) : list->EntryCount();
+    for (int entry = 0; entry < shown; ++entry) {
+      tell(fmt::format("{}[{}] = {}", address, entry + 1, InQuotes(list->Entry(entry))));
     }
   }
 }

@@ -34,7 +34,7 @@ std::optional<std::string> QuietHost::Input(std::string_view, std::string_view p
 }
 
 std::optional<std::filesystem::path> QuietHost::ChooseFile(FileChoice, std::string_view title,
-                                                           std::string_view) {
+                                                           std::string_view, std::string_view) {
   throw Fault(fmt::format("Nobody chooses a file for \"{}\".", title));
 }
 

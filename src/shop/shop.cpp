@@ -1,6 +1,7 @@
 #include "shop/shop.h"
 
 #include "store/row_set.h"
+#include "store/table_definition.h"
 #include "text/fault.h"
 #include "text/utf8.h"
 #include "text_number/text_number.h"
@@ -10,6 +11,7 @@ namespace tarvane {
 Database& Shop::database(std::string_view file) {
   const auto found = databases_.find(file);
   if (found != databases_.end()) return found->second;
+  if (file == data_file::kJobs) MakeFilesOfLaterVersions(folder_);
   Database& opened = databases_.emplace(file, Database(File(file))).first->second;
   if (!opened.notice().empty()) notices_.push_back(opened.notice());
   return opened;

@@ -22,6 +22,7 @@ struct Setting {
   std::string_view column;
 };
 namespace setting {
+inline constexpr Setting kMarkUp{"LastEstimateNo"};
 inline constexpr Setting kVat{"VatAmount"};
 inline constexpr Setting kCurrencySymbol{"CurrencySymbol"};
 inline constexpr Setting kDiscountPercent{"Ext1"};

@@ -12,6 +12,11 @@ namespace tarvane {
 // "curtainlist.dat" where only that is there; a file that isn't there gets the name as written here.
 namespace data_file {
 inline constexpr std::string_view kJobs = "Dat/Tarvane.mdb";
+inline constexpr std::string_view kProducts = "Dat/Products.mdb";
+inline constexpr std::string_view kAccessories = "Dat/Items.mdb";
+inline constexpr std::string_view kSuppliers = "Dat/Suppliers2.mdb";
+inline constexpr std::string_view kTemplates = "Dat/Templates.mdb";
+inline constexpr std::string_view kPricing = "Dat/Popup1.mdb";
 inline constexpr std::string_view kSettings = "Dat/Tarvane.ini";
 inline constexpr std::string_view kCheckListCaptions = "checklist.ini";
 inline constexpr std::string_view kWizardOptions = "Options.dat";

@@ -144,17 +144,17 @@ void RowCursor::Leave(End end) {
 }
 
 void RowCursor::MoveFirst() {
-  Update();
+  LeaveRow();
   Go([this] { return source_->First(); }, End::kBack);
 }
 
 void RowCursor::MoveLast() {
-  Update();
+  LeaveRow();
   Go([this] { return source_->Last(); }, End::kBack);
 }
 
 void RowCursor::MoveNext() {
-  Update();
+  LeaveRow();
   if (!place_ && end_ == End::kBack) return;
   const std::int64_t walked = walked_;
   NoticeChanges();
@@ -199,13 +199,13 @@ void RowCursor::StopWalk() {
 }
 
 void RowCursor::MovePrevious() {
-  Update();
+  LeaveRow();
   if (!place_ && end_ == End::kFront) return;
   Go([this] { return place_ ? source_->Previous(*place_) : source_->Last(); }, End::kFront);
 }
 
 void RowCursor::MoveTo(std::int64_t position) {
-  Update();
+  LeaveRow();
   NoticeChanges();
   if (!source_->At(position))
     throw Fault("The table " + table_->name + " has no row " + std::to_string(position + 1) + ".");
@@ -213,7 +213,7 @@ void RowCursor::MoveTo(std::int64_t position) {
 }
 
 void RowCursor::FindFirst(std::string_view criterion) {
-  Update();
+  LeaveRow();
   no_match_ = true;
   const CriterionQuery query(connection_, *table_, ParseCriterion(criterion));
   NoticeChanges();
@@ -229,7 +229,7 @@ void RowCursor::FindFirst(std::string_view criterion) {
 std::string RowCursor::Bookmark() const { return place_ && !adding_ ? std::to_string(place_->key) : ""; }
 
 void RowCursor::SetBookmark(std::string_view bookmark) {
-  Update();
+  LeaveRow();
   NoticeChanges();
   std::int64_t key = 0;
   const auto read = std::from_chars(bookmark.data(), bookmark.data() + bookmark.size(), key);

@@ -46,6 +46,8 @@ class RowCursor {
   void AddNew();
   void Edit() const;
   void Update();
+  void SetUntouched();
+  void LeaveRow();
   void CancelUpdate();
   void Delete();
   void Resync();
@@ -109,6 +111,7 @@ class RowCursor {
   std::map<int, std::string> waiting_;
   std::vector<std::string> scratch_;
   bool adding_ = false;
+  std::optional<std::map<int, std::string>> untouched_;  // what waits in a new row that may be dropped
 
   std::optional<Attempt> attempt_;
 

@@ -62,8 +62,21 @@ void RowCursor::Edit() const {
   if (!HasRow()) throw Fault("The table " + table_->name + " has no current row.");
 }
 
+void RowCursor::SetUntouched() {
+  if (IsAdding()) untouched_ = waiting_;
+}
+
+void RowCursor::LeaveRow() {
+  if (IsAdding() && untouched_ == waiting_) {
+    CancelUpdate();
+  } else {
+    Update();
+  }
+}
+
 void RowCursor::AddNew() {
-  Update();
+  LeaveRow();
+  untouched_.reset();
   row_ = ReadDefaults(connection_, *table_);
   adding_ = true;
   attempt_.reset();

@@ -123,6 +123,12 @@ void RowSet::Update() {
   state_->Do([](RowCursor& cursor) { cursor.Update(); });
 }
 
+void RowSet::SetUntouched() { state_->Cursor().SetUntouched(); }
+
+void RowSet::Leave() {
+  state_->Do([](RowCursor& cursor) { cursor.LeaveRow(); });
+}
+
 void RowSet::CancelUpdate() {
   state_->Do([](RowCursor& cursor) { cursor.CancelUpdate(); });
 }

@@ -23,8 +23,8 @@ class Database;
 //
 // States: closed; open without a current row (no rows, or past an end); on a row; editing (a row's changed
 // columns wait in the edit buffer); adding (all columns of a new row wait there). A move, FindFirst, AddNew
-// or setting a bookmark commits what waits (as Update does); a fault there leaves the row current and the
-// buffer as it is. Close and destruction lose it.
+// or setting a bookmark commits what waits (as Update does, but see SetUntouched); a fault there leaves the
+// row current and the buffer as it is. Close and destruction lose it.
 //
 // Faults: every operation on a closed row set; what SQLite refuses, told with the file and the cause.
 class RowSet {
@@ -88,6 +88,11 @@ class RowSet {
   // a new row "may or may not have been saved", the next Update looks, and never adds it twice. Where a
   // transaction comes to nothing, what this row set wrote last in it waits in the buffer again.
   void Update();
+  // What waits in a new row by now are its defaults: where nothing else is put in, leaving the row (a move,
+  // FindFirst, AddNew, a bookmark, Leave) drops it. Nothing while no row is being added.
+  void SetUntouched();
+  // Commits what waits, as a move does.
+  void Leave();
   void CancelUpdate();  // drops what waits; after AddNew the former row is current again
   void Delete();        // of the current row; then the next one is current, else the last, else none. While
                         // adding: as CancelUpdate

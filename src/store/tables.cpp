@@ -140,6 +140,132 @@ std::vector<ColumnDefinition> LetterColumns() {
   };
 }
 
+std::vector<ColumnDefinition> ProductColumns() {
+  return {
+      {"ProductID", kKey, "", kSearched},
+      {"SuppliersName", kText, "", kSearched},
+      {"SuppliersShortCode", kText},
+      {"ProductName", kText, "", kSearched},
+      {"ItemCode", kText, "", kSearched},
+      {"Description", kText},
+      {"Category", kText, "", kSearched},
+      {"BarCode", kText, "", kSearched},
+      {"BatchNo", kText},
+      {"SellingPrice", kText},
+      {"BuyPrice", kText},
+      {"VatRate", kText},
+      {"PriceWithOutVat", kText},
+      {"AmountInStock", kText},
+      {"StockLowLevelAmount", kText},
+      {"StockOnOrder", kText},
+      {"AmountOfStockToOrder", kText},
+      {"Remarks", kMemo},
+      {"image", kText},
+      {"imagepath", kMemo},
+      {"BookName", kText},
+      {"Width", kText},
+      {"PattrenRepeat", kText},
+  };
+}
+
+std::vector<ColumnDefinition> AccessoryColumns() {
+  return {
+      {"ItemID", kKey, "", kSearched},        {"SuppliersName", kText, "", kSearched},
+      {"ItemName", kText, "", kSearched},     {"ItemCode", kText, "", kSearched},
+      {"Discription", kText, "", kSearched},  {"BuyPrice", kText, "", kSearched},
+      {"SellingPrice", kText, "", kSearched}, {"Remarks", kMemo},
+  };
+}
+
+std::vector<ColumnDefinition> SupplierColumns() {
+  return {
+      {"SuppliersID", kKey, "", kSearched},
+      {"SuppliersName", kText, "", kSearched},
+      {"Address", kMemo},
+      {"Telephone", kText, "", kSearched},
+      {"Fax", kText},
+      {"ContactName", kText},
+      {"Email", kText},
+      {"Email2", kText},
+      {"WebSite", kText},
+      {"CurrentBalance", kText},
+      {"CreditLimit", kText},
+      {"NumberDueDays", kText},
+      {"PurchaseDiscount", kText},
+      {"PaymentDiscount", kText},
+      {"AccountNumber", kText, "", kSearched},
+      {"History", kMemo},
+  };
+}
+
+std::vector<ColumnDefinition> TemplateColumns() {
+  return {
+      {"ItemID", kKey, "", kSearched},
+      {"Description", kText, "", kSearched},
+      {"Info1", kText, "", kSearched},
+      {"Info2", kText},
+      {"Info3", kText},
+      {"Info4", kText},
+      {"Info5", kText},
+      {"Info6", kText},
+      {"Info7", kText},
+      {"Info8", kText},
+      {"Info9", kText},
+      {"Element1", kText},
+      {"Element2", kText},
+      {"Element3", kText},
+      {"Element4", kText},
+      {"Element5", kText},
+      {"Element6", kText},
+      {"Element7", kText},
+      {"Element8", kText},
+      {"Element9", kText},
+      {"Element10", kText},
+      {"Qty1", kText},
+      {"Qty2", kText},
+      {"Qty3", kText},
+      {"Qty4", kText},
+      {"Qty5", kText},
+      {"Qty6", kText},
+      {"Qty7", kText},
+      {"Qty8", kText},
+      {"Qty9", kText},
+      {"Qty10", kText},
+      {"SubTotal1", kText},
+      {"SubTotal2", kText},
+      {"SubTotal3", kText},
+      {"SubTotal4", kText},
+      {"SubTotal5", kText},
+      {"SubTotal6", kText},
+      {"SubTotal7", kText},
+      {"SubTotal8", kText},
+      {"SubTotal9", kText},
+      {"SubTotal10", kText},
+      {"SellingPrice", kText},
+      {"BuyPrice", kText, "", kSearched},
+      {"Remarks", kMemo},
+  };
+}
+
+std::vector<ColumnDefinition> PricingColumns() {
+  return {
+      {"PopUpID", kNextKey, "", kSearched},
+      {"Reference", kText, "", kSearched},
+      {"Description", kText, "", kSearched},
+      {"LabourPrice", kText, "", kSearched},
+      {"LiningPrice", kText},
+      {"LiningName", kText, "", kSearched},
+      {"InterliningPrice", kText},
+      {"InterLiningName", kText, "", kSearched},
+      {"TapePrice", kText},
+      {"Fullness", kText},
+      {"HemsCms", kText},
+      {"HemsIns", kText},
+      {"AutoRoundUp", kText},
+      {"Notes", kMemo},
+  };
+}
+
 // Version 0 had indexes in an order of the program's own.
 constexpr std::string_view kDropOwnOrder =
     "DROP INDEX IF EXISTS TblBrindel_Name;"
@@ -163,6 +289,11 @@ const std::vector<TableDefinition>& TableDefinitions() {
       {data_file::kJobs, "Admin", AdminColumns()},
       {data_file::kJobs, "tblCompany", CompanyColumns()},
       {data_file::kJobs, "TblLetters", LetterColumns()},
+      {data_file::kProducts, "Products", ProductColumns(), 2},
+      {data_file::kAccessories, "Items", AccessoryColumns(), 2},
+      {data_file::kSuppliers, "Suppliers", SupplierColumns(), 2},
+      {data_file::kTemplates, "Templates", TemplateColumns(), 2},
+      {data_file::kPricing, "PopUp1", PricingColumns(), 2},
   };
   return tables;
 }

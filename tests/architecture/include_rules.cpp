@@ -18,8 +18,10 @@ const std::vector<std::vector<std::string>> kLayers = {
     {"pdf", "store"},
     {"screen"},
     {"shop"},
+    {"listing"},
     {"job"},
-    {"tools", "curtain_wizard", "printing"},
+    {"catalogues", "tools", "printing"},
+    {"curtain_wizard", "blinds"},
     {"app"},
     {"script", "setup", "desktop"},
 };

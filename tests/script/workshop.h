@@ -123,7 +123,7 @@ inline void Workshop::Act(const std::string& what) {
   } else if (what == "input") {
     Log.LoadText(host().Input("User Input", "List Entry:", "").value_or("none"));
   } else if (what == "file") {
-    Log.LoadText(host().ChooseFile(FileChoice::kOpen, "Open Link", "").value_or("none").string());
+    Log.LoadText(host().ChooseFile(FileChoice::kOpen, "Open Link", "", "").value_or("none").string());
   } else if (what == "print") {
     host().PrintPages({{{{0, "ab"}, {5, "c"}, {3, "late"}}, {}}, {{{1, "\xC2\xA3"}, {3, "x"}}}});
   } else if (what == "clip") {

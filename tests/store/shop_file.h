@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "store/data_files.h"
 #include "store/database.h"
 #include "store/row_set.h"
 #include "store/table_definition.h"
@@ -51,13 +52,20 @@ inline std::string Where(const RowSet& rows) {
          std::to_string(rows.RecordCount());
 }
 
+// The tables that stand in the file of the jobs.
+inline void CreateJobTables(Database& database) {
+  for (const TableDefinition& table : TableDefinitions()) {
+    if (table.file == data_file::kJobs) CreateTable(database, table);
+  }
+}
+
 // A jobs file with all its tables and no rows.
 class ShopFile : public testing::Test {
  protected:
   ShopFile() : file_(folder_.path() / "Tarvane.mdb") {
     Database database(file_, Database::Mode::kCreate);
     Database::Transaction together(database);
-    for (const TableDefinition& table : TableDefinitions()) CreateTable(database, table);
+    CreateJobTables(database);
     together.Commit();
   }
 

@@ -13,6 +13,7 @@ using TableDefinitionTest = ShopFile;
 TEST_F(TableDefinitionTest, FilesHoldWhatIsDefined) {
   Database database(file_);
   for (const TableDefinition& table : TableDefinitions()) {
+    EXPECT_EQ(CreateTable(database, table), table.file != data_file::kJobs) << "once";
     EXPECT_FALSE(CreateTable(database, table)) << "it is there already";
     RowSet rows = Opened(database, table.name);
     ASSERT_EQ(rows.ColumnCount(), static_cast<int>(table.columns.size())) << table.name;
@@ -25,7 +26,7 @@ TEST_F(TableDefinitionTest, FilesHoldWhatIsDefined) {
       EXPECT_EQ(rows.ColumnName(i), column.name);
       EXPECT_EQ(rows.FindColumn(column.name), i) << "no other column differs only in case";
       EXPECT_EQ(rows.Value(i), yes_no ? "0" : column.default_value) << column.name;
-      if (column.type == ColumnType::kKey) continue;
+      if (column.type == ColumnType::kKey || column.type == ColumnType::kNextKey) continue;
       written.push_back(yes_no ? "1" : std::string(column.name));
       rows.SetValue(i, written.back());
     }

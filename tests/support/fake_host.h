@@ -31,6 +31,7 @@ class FakeHost : public Host {
   std::vector<std::string> messages;  // texts, in order
   std::vector<std::string> titles;    // their titles
   std::vector<Question> questions;
+  std::vector<std::string> suggestions;  // file names
   std::vector<std::string> launched;
   std::vector<PrintedPage> printed;
   std::string clipboard;
@@ -70,8 +71,9 @@ class FakeHost : public Host {
   std::optional<std::string> Input(std::string_view, std::string_view prompt, std::string_view) override {
     return Take(inputs, prompt);
   }
-  std::optional<std::filesystem::path> ChooseFile(FileChoice, std::string_view title,
-                                                  std::string_view) override {
+  std::optional<std::filesystem::path> ChooseFile(FileChoice, std::string_view title, std::string_view,
+                                                  std::string_view suggested) override {
+    suggestions.emplace_back(suggested);
     return Take(files, title);
   }
   void Beep() override { ++beeps; }

@@ -24,7 +24,8 @@ class SilentHost : public Host {
   std::optional<std::string> Input(std::string_view, std::string_view, std::string_view) override {
     return {};
   }
-  std::optional<std::filesystem::path> ChooseFile(FileChoice, std::string_view, std::string_view) override {
+  std::optional<std::filesystem::path> ChooseFile(FileChoice, std::string_view, std::string_view,
+                                                  std::string_view) override {
     return {};
   }
   void Beep() override {}

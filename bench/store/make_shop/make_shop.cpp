@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "store/connection.h"
+#include "store/data_files.h"
 #include "store/row_set.h"
 #include "store/table_definition.h"
 #include "text/fault.h"
@@ -141,7 +142,9 @@ void InsertJobs(Connection& connection, std::int64_t jobs) {
 void MakeShop(const std::filesystem::path& file, std::int64_t jobs) {
   {
     Database database(file, Database::Mode::kCreate);
-    for (const TableDefinition& table : TableDefinitions()) CreateTable(database, table);
+    for (const TableDefinition& table : TableDefinitions()) {
+      if (table.file == data_file::kJobs) CreateTable(database, table);
+    }
     RowSet admin;
     admin.Open(database, "Admin");
     if (!admin.HasRow()) admin.AddNew();

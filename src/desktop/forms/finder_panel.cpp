@@ -1,4 +1,3 @@
-#include <QKeyEvent>
 #include <QLayout>
 #include <QPushButton>
 #include <QTableView>
@@ -50,23 +49,6 @@ Piece AddButton(Form& form, app::MainScreen& screen) {
   return {button};
 }
 
-// Down leads from the search text into the list.
-class DownIntoList : public QObject {
- public:
-  DownIntoList(QObject* text, QWidget* list) : QObject(text), list_(list) { text->installEventFilter(this); }
-
-  bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() != QEvent::KeyPress) return false;
-    const auto* key = static_cast<QKeyEvent*>(event);
-    if (key->key() != Qt::Key_Down || key->modifiers() != Qt::NoModifier) return false;
-    list_->setFocus(Qt::TabFocusReason);
-    return true;
-  }
-
- private:
-  QWidget* list_;
-};
-
 Piece People(Builder& build, app::MainScreen& screen) {
   const Piece person = build.Fields({{"Sales Person", {{screen.CboSalesPersonSearch, {.width = 20}}}}});
   const Piece last =
@@ -84,9 +66,7 @@ Piece FinderPanel(Builder& build, app::MainScreen& screen) {
   const Piece table = build.Table(screen.QuickFinderGrid, kFinderColumns);
   const Piece page =
       build.Column({open, table, build.Rule(), build.Find(screen.JobFinder), People(build, screen)});
-  if (QObject* text = form.WidgetOf(screen.JobFinder.FabSText)) {
-    Make<DownIntoList>(text, table.widget);
-  }
+  build.LeadDown(screen.JobFinder.FabSText, table);
   SayWhyOff(form, screen.JobFinder.CmdSearch, "Choose what to search by first.");
   form.Bind(screen.Frame2, page.layout, nullptr);
   return build.Margin(page);

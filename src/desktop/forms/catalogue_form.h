@@ -1,0 +1,27 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "catalogues/catalogue.h"
+#include "desktop/builders.h"
+
+namespace tarvane::desktop {
+
+// What differs between the windows of catalogues.
+struct CataloguePieces {
+  TableLook list;  // the columns that are shown
+  // The fields of the record, put when their turn in the Tab order has come.
+  std::function<Piece(Builder&)> record;
+  // What hands a row over: at the right end, the first one strong where the window was opened for it.
+  std::vector<Button*> use = {};
+  // Below the list, and beside the buttons that add and save; may be empty.
+  std::function<Piece(Builder&)> below_list = {};
+  std::vector<Button*> more = {};
+};
+
+// Search on top, the list at the left, the record at the right (below in a narrow window), the buttons below.
+// Ctrl+N adds, Ctrl+S saves, Ctrl+F leads to the search.
+void FillCatalogue(Form& form, catalogues::Catalogue& screen, const CataloguePieces& pieces);
+
+}  // namespace tarvane::desktop
