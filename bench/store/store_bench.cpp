@@ -4,7 +4,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -16,6 +15,7 @@
 #include "store/database.h"
 #include "store/make_shop/make_shop.h"
 #include "store/row_set.h"
+#include "support/compare.h"
 #include "text/fault.h"
 
 namespace tarvane {
@@ -24,40 +24,6 @@ namespace {
 constexpr const char* kPrefix = "smith";
 constexpr const char* kBehindPrefix = "smiti";
 constexpr int kScreenful = 50;
-
-double Microseconds(const std::function<void()>& step) {
-  const auto start = std::chrono::steady_clock::now();
-  step();
-  return std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - start).count();
-}
-
-double Median(std::vector<double> values) {
-  std::nth_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2),
-                   values.end());
-  return values[values.size() / 2];
-}
-
-void Compare(const char* what, double limit, int rounds, const std::function<void()>& ours,
-             const std::function<void()>& by_hand) {
-  std::vector<double> our_times;
-  std::vector<double> hand_times;
-  ours();
-  by_hand();
-  for (int i = 0; i < rounds; ++i) {
-    our_times.push_back(Microseconds(ours));
-    hand_times.push_back(Microseconds(by_hand));
-  }
-  const double our_median = Median(our_times);
-  const double hand_median = Median(hand_times);
-  std::printf("| %-44s | %10.1f | %10.1f | %5.2f | %4.2f |\n", what, our_median, hand_median,
-              our_median / hand_median, limit);
-}
-
-void Expect(bool holds, const char* what) {
-  if (holds) return;
-  std::fprintf(stderr, "not the same work: %s\n", what);
-  std::exit(1);
-}
 
 void CompareReading(const std::filesystem::path& file) {
   const std::string query = "SELECT * FROM TblBrindel WHERE Name LIKE '" + std::string(kPrefix) + "*'";
@@ -223,8 +189,7 @@ int Run(int argc, char** argv) {
                                                : argv[1];
   if (!std::filesystem::exists(file))
     MakeShop(file, argc > 2 ? std::strtoll(argv[2], nullptr, 10) : 1'000'000);
-  std::printf("| %-44s | %10s | %10s | %5s | %4s |\n", "medians in microseconds", "store", "by hand", "ratio",
-              "most");
+  PrintHeading("store", "by hand");
   CompareOpening(file);
   CompareReading(file);
   TimeGrid(file);

@@ -60,6 +60,9 @@ void Catalogue::SetRules() {
     Messages.SetCaption("");
     SetFocus(Search.FabSText);
   });
+  Data1.OnReposition([this] {
+    for (Button* button : {&Update, &CmdDelete}) button->SetEnabled(Data1.HasRow());
+  });
   CmdFabAdd.OnClicked([this] { Add(); });
   Update.OnClicked([this] { Save(); });
   CmdDelete.OnClicked([this] { Delete(); });
@@ -76,6 +79,7 @@ void Catalogue::SetRules() {
 void Catalogue::Load() {
   Data1.Open(shop_.database(look_.file), look_.table);
   TellNotices();
+  SetFocus(Search.FabSText);
 }
 
 void Catalogue::TellNotices() {

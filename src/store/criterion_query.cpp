@@ -225,9 +225,9 @@ std::optional<std::int64_t> CriterionQuery::SmallestKey() const {
   }
   Read(along_keys ? "SELECT rowid" + from_ + where_ + " ORDER BY rowid LIMIT 1"
                   : "SELECT min(rowid)" + from_ + where_,
-       [&take](const Statement& statement) {
+       [&](const Statement& statement) {
          if (!statement.IsNull(0)) take(statement.Number(0));
-         return true;
+         return !along_keys;
        });
   if (by_ranges_) {
     for (const FoldedOrder::Row& stray : Strays()) take(stray.key);

@@ -15,8 +15,8 @@ namespace tarvane {
 
 namespace {
 
-constexpr std::int64_t kStepsOfWalk = 2;
-constexpr std::int64_t kMostRowsAhead = 32;
+constexpr std::int64_t kStepsOfWalk = 1;
+constexpr std::int64_t kRowsAhead = 48;
 
 struct SourceText {
   std::string table;
@@ -171,9 +171,8 @@ void RowCursor::MoveNext() {
 
 // Rows are locked and read together: one by one the locks cost more than the rows.
 void RowCursor::ReadAhead() {
-  walked_ = std::min(4 * walked_, kMostRowsAhead);
   const Connection::ReadTogether together(connection_);
-  const std::vector<Place> places = source_->Following(*place_, walked_);
+  const std::vector<Place> places = source_->Following(*place_, kRowsAhead);
   std::vector<std::int64_t> keys;
   keys.reserve(places.size());
   for (const Place& place : places) keys.push_back(place.key);
@@ -217,8 +216,12 @@ void RowCursor::FindFirst(std::string_view criterion) {
   no_match_ = true;
   const CriterionQuery query(connection_, *table_, ParseCriterion(criterion));
   NoticeChanges();
-  const std::optional<Place> found = source_->FindFirst(query);
-  if (!found || !ReadRow(found->key, scratch_)) return;
+  std::optional<Place> found;
+  {
+    const Connection::ReadTogether together(connection_);
+    found = source_->FindFirst(query);
+    if (!found || !ReadRow(found->key, scratch_)) return;
+  }
   StopWalk();
   no_match_ = false;
   place_ = found;

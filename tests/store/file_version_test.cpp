@@ -1,6 +1,8 @@
 // Files of every version that landed, of later ones, and of other programs; and what other programs may do.
 #include <gmock/gmock.h>
 
+#include <set>
+
 #include "store/connection.h"
 #include "store/data_files.h"
 #include "store/failing_disk.h"
@@ -177,6 +179,55 @@ TEST_F(FileVersionTest, OtherProgramsCheckRepairAndChange) {
     RowSet jobs = Opened(database, source);
     EXPECT_EQ(Walk(jobs, "RefNo"), keys) << source;
   }
+}
+
+// The databases that came with a version are made beside jobs of an older one, and not where one went
+// missing.
+TEST_F(FileVersionTest, FilesThatCameLaterAreMadeForOlderShops) {
+  const fs::path dat = folder_.path() / "Dat";
+  fs::create_directory(dat);
+  const auto files = [&dat] {
+    std::set<std::string> names;
+    for (const auto& entry : fs::directory_iterator(dat)) names.insert(entry.path().filename());
+    return names;
+  };
+  const auto place_jobs = [&](int version) {
+    MakeVersion(version);
+    fs::rename(file_, dat / "Tarvane.mdb");
+  };
+  place_jobs(1);
+  const std::string theirs = "kept as it is";
+  ReplaceFile(dat / "Items.mdb", theirs);
+  MakeFilesOfLaterVersions(folder_.path());
+  EXPECT_EQ(files(), (std::set<std::string>{"Items.mdb", "Popup1.mdb", "Products.mdb", "Suppliers2.mdb",
+                                            "Tarvane.mdb", "Templates.mdb"}));
+  EXPECT_EQ(ContentOf(dat / "Items.mdb"), theirs);
+  for (const auto& [file, table] :
+       {std::pair("Popup1.mdb", "PopUp1"), std::pair("Products.mdb", "Products"),
+        std::pair("Suppliers2.mdb", "Suppliers"), std::pair("Templates.mdb", "Templates")}) {
+    Database database(dat / file);
+    EXPECT_EQ(database.notice(), "");
+    EXPECT_EQ(Opened(database, table).RecordCount(), 0);
+  }
+  // The jobs are of this version by now, or aren't ours: what is missing stays missing.
+  Database(dat / "Tarvane.mdb");
+  fs::remove(dat / "Products.mdb");
+  MakeFilesOfLaterVersions(folder_.path());
+  EXPECT_FALSE(fs::exists(dat / "Products.mdb"));
+  for (const char* marks : {"PRAGMA application_id=7; PRAGMA user_version=1", "PRAGMA user_version=99"}) {
+    place_jobs(1);
+    PlainSqlite(dat / "Tarvane.mdb").Run(marks);
+    MakeFilesOfLaterVersions(folder_.path());
+    EXPECT_FALSE(fs::exists(dat / "Products.mdb")) << marks;
+  }
+  place_jobs(0);
+  fs::permissions(dat, fs::perms(0555));
+  {
+    const OrdinaryUser user;
+    MakeFilesOfLaterVersions(folder_.path());
+  }
+  fs::permissions(dat, fs::perms(0777));
+  EXPECT_FALSE(fs::exists(dat / "Products.mdb"));
 }
 
 }  // namespace

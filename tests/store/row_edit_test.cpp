@@ -202,5 +202,36 @@ TEST_F(RowEditTest, TransactionsHoldTogether) {
   }
 }
 
+// A new row that nobody put anything into isn't kept, however it is left; defaults alone don't count.
+TEST_F(RowEditTest, AnUntouchedNewRowGoesAsItIsLeft) {
+  AddJobs({"a", "b"});
+  Database database(file_);
+  const std::vector<std::function<void(RowSet&)>> ways = {
+      [](RowSet& rows) { rows.MoveFirst(); },      [](RowSet& rows) { rows.MoveTo(1); },
+      [](RowSet& rows) { rows.SetBookmark("2"); }, [](RowSet& rows) { rows.FindFirst("Name LIKE 'b'"); },
+      [](RowSet& rows) { rows.Leave(); },          [](RowSet& rows) { rows.AddNew(), rows.CancelUpdate(); },
+  };
+  for (const bool touched : {false, true}) {
+    for (const auto& leave : ways) {
+      RowSet rows = Opened(database);
+      const std::int64_t before = rows.RecordCount();
+      rows.AddNew();
+      rows.SetValue("Town", "by default");
+      rows.SetUntouched();
+      if (touched) rows.SetValue("Name", "typed");
+      leave(rows);
+      EXPECT_EQ(rows.RecordCount(), before + (touched ? 1 : 0));
+      EXPECT_FALSE(rows.IsAdding());
+      EXPECT_TRUE(rows.HasRow());
+    }
+  }
+  RowSet rows = Opened(database);
+  const std::int64_t before = rows.RecordCount();
+  rows.AddNew();
+  rows.SetUntouched();
+  rows.Update();
+  EXPECT_EQ(rows.RecordCount(), before + 1) << "a save keeps it";
+}
+
 }  // namespace
 }  // namespace tarvane

@@ -16,7 +16,8 @@ namespace tarvane {
 
 using RowValues = std::map<std::string, std::string>;
 
-// A program folder of its own for one test, gone with it. The job database has its tables and no rows.
+// A program folder of its own for one test, gone with it. The job database has its tables and no rows; the other
+// databases come into being with MakeFile or the first row of one of their tables.
 class ShopFolder {
  public:
   ShopFolder() {
@@ -37,8 +38,15 @@ class ShopFolder {
   void Write(std::string_view name, std::string_view content) const { ReplaceFile(path_ / name, content); }
   std::string Read(std::string_view name) const { return ReadFile(path_ / name).value_or("(missing)"); }
 
+  std::filesystem::path FileOf(std::string_view table) const { return path_ / FindTable(table).file; }
+  // The database of that table, where it isn't there yet.
+  void MakeFile(std::string_view table) const {
+    Database database(FileOf(table), Database::Mode::kCreate);
+    CreateTable(database, FindTable(table));
+  }
   void AddRow(std::string_view table, const RowValues& values) const {
-    Database database(jobs_file());
+    MakeFile(table);
+    Database database(FileOf(table));
     RowSet rows;
     rows.Open(database, table);
     rows.AddNew();
@@ -52,14 +60,14 @@ class ShopFolder {
 
   // As stored, of the row at `position`.
   std::string Stored(std::string_view table, int position, std::string_view column) const {
-    Database database(jobs_file());
+    Database database(FileOf(table));
     RowSet rows;
     rows.Open(database, table);
     rows.MoveTo(position);
     return rows.StoredValue(rows.FindColumn(column));
   }
   std::int64_t Count(std::string_view table) const {
-    Database database(jobs_file());
+    Database database(FileOf(table));
     RowSet rows;
     rows.Open(database, table);
     return rows.RecordCount();

@@ -36,7 +36,7 @@ void FillCatalogue(Form& form, Catalogue& screen, const CataloguePieces& pieces)
   TableLook look = pieces.list;
   look.remove = &screen.CmdDelete;
   const Piece table = build.Table(screen.MSFlexGrid1, look);
-  form.AddSizer([widget = table.widget] { widget->setMinimumSize(Digits(38), Quarters(40)); });
+  form.AddSizer([widget = table.widget] { widget->setMinimumSize(Digits(46), Quarters(40)); });
   build.LeadDown(screen.Search.FabSText, table);
   Pieces left = {table.Grow(), build.Flow({build.Records(screen.Records), Builder::Spring(), messages})};
   if (pieces.below_list) left.push_back(pieces.below_list(build));

@@ -4,11 +4,10 @@
 namespace tarvane::desktop {
 namespace {
 
-const TableLook kColumns = {.columns = {{"SuppliersID", "Record ID", 6, true},
+const TableLook kColumns = {.columns = {{"SuppliersID", "ID", 5, true},
                                         {"SuppliersName", "Suppliers Name", 24},
                                         {"Telephone", "Telephone No", 15},
-                                        {"ContactName", "Contact", 16},
-                                        {"AccountNumber", "Account Number", 12}},
+                                        {"ContactName", "Contact", 14}},
                             .wide = "SuppliersName",
                             .name = "Suppliers",
                             .empty = "No suppliers yet. Add New begins one."};
