@@ -96,6 +96,7 @@ void Interpreter::ChooseEntry(const Argument& address, Control& control, const s
       },
       [&](ListBox& list) {
         std::vector<std::string> entries;
+        entries.reserve(static_cast<std::size_t>(list.EntryCount()));
         for (int entry = 0; entry < list.EntryCount(); ++entry) entries.push_back(list.Entry(entry));
         list.UserPick(static_cast<int>(FindEntry(address, control, text, entries)));
       },

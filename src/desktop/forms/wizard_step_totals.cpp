@@ -1,3 +1,5 @@
+#include <QWidget>
+
 #include "curtain_wizard/wizard.h"
 #include "desktop/flow_row.h"
 #include "desktop/forms/wizard_form.h"
