@@ -4,7 +4,7 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLineEdit>
-#include <QListView>
+#include <QTableView>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -134,7 +134,7 @@ TEST_F(BindingTest, ListsTellWhatIsPickedAndOpened) {
   int opened = -2;
   screen_.List.OnOpened([&] { opened = screen_.List.selected(); });
   Show({build_.List(screen_.List)});
-  auto* view = Of<QListView>(screen_.List);
+  auto* view = Of<QTableView>(screen_.List);
   Click(view->viewport(), view->visualRect(view->model()->index(1, 0)).center());
   EXPECT_EQ(screen_.List.selected(), 1);
   Key(Qt::Key_Down);
