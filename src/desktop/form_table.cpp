@@ -42,6 +42,12 @@ std::string Unsaved(MainScreen& main) {
 }
 void Save(MainScreen& main) { main.SaveRecord(); }
 
+std::string Unsaved(catalogues::Catalogue& catalogue) {
+  const bool waits = Waits(catalogue.Data1) && !catalogue.Data1.rows().IsUntouched();
+  return waits ? "the record of " + catalogue.RowName() : "";
+}
+void Save(catalogues::Catalogue& catalogue) { catalogue.Data1.Save(); }
+
 std::string Unsaved(tools::frmOptions& options) {
   return Waits(options.Data1) ? "the preferences of the shop" : "";
 }
@@ -73,6 +79,7 @@ constexpr FormEntry Row(std::string_view picture, bool remembers_place,
       .build = [](Form& form) { build(form, dynamic_cast<Shown&>(form.screen())); },
       .show = show,
       .unsaved = nullptr,
+      .closing_saves = std::is_base_of_v<catalogues::Catalogue, Shown>,
       .save = nullptr};
   if constexpr (kKeepsRows<Shown>) {
     entry.unsaved = UnsavedIn<Shown>;

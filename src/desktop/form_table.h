@@ -26,8 +26,9 @@ struct FormEntry {
   // screen itself.
   void (*show)(app::MainScreen& main);
   // What the worker typed that isn't stored: its name ("the job of Mrs Blake"), "" where nothing waits. It is
-  // asked for before the window closes. Null for screens where nothing ever waits.
+  // marked in the title, and asked for before the window closes. Null for screens where nothing ever waits.
   std::string (*unsaved)(Screen& screen);
+  bool closing_saves;            // closing the screen stores it: only a log-out asks
   void (*save)(Screen& screen);  // faults where it can't; with `unsaved` only
 };
 

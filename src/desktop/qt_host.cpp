@@ -90,7 +90,8 @@ std::unique_ptr<QWidget> QtHost::MakeWindow(Screen& screen) {
   const auto ask = [this, &screen] {
     // Only the top window may close: those below it wait for it.
     if (forms_.empty() || &forms_.back()->screen() != &screen) return;
-    if (MayLeave(*forms_.back())) screen.UserClose();
+    const FormEntry* entry = FindForm(screen);
+    if ((entry != nullptr && entry->closing_saves) || MayLeave(*forms_.back())) screen.UserClose();
   };
   if (screen.name() == "Form1") {
     auto window = std::make_unique<MainWindow>();

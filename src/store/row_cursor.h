@@ -47,6 +47,7 @@ class RowCursor {
   void Edit() const;
   void Update();
   void SetUntouched();
+  bool IsUntouched() { return IsAdding() && untouched_ == waiting_; }
   void LeaveRow();
   void CancelUpdate();
   void Delete();

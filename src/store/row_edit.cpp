@@ -67,7 +67,7 @@ void RowCursor::SetUntouched() {
 }
 
 void RowCursor::LeaveRow() {
-  if (IsAdding() && untouched_ == waiting_) {
+  if (IsUntouched()) {
     CancelUpdate();
   } else {
     Update();

@@ -125,6 +125,8 @@ void RowSet::Update() {
 
 void RowSet::SetUntouched() { state_->Cursor().SetUntouched(); }
 
+bool RowSet::IsUntouched() const { return state_->Cursor().IsUntouched(); }
+
 void RowSet::Leave() {
   state_->Do([](RowCursor& cursor) { cursor.LeaveRow(); });
 }

@@ -91,6 +91,7 @@ class RowSet {
   // What waits in a new row by now are its defaults: where nothing else is put in, leaving the row (a move,
   // FindFirst, AddNew, a bookmark, Leave) drops it. Nothing while no row is being added.
   void SetUntouched();
+  bool IsUntouched() const;  // such a row is current
   // Commits what waits, as a move does.
   void Leave();
   void CancelUpdate();  // drops what waits; after AddNew the former row is current again
