@@ -152,10 +152,9 @@ bool Catalogue::MayClose() {
     Data1.Leave();
     return true;
   } catch (const Fault& fault) {
-    const bool drops = AskYesNo(title(), std::string(fault.what()) + "\nClose without saving it?",
-                                Answer::kNo, Icon::kWarning);
-    if (drops) Data1.rows().CancelUpdate();
-    return drops;
+    // What waits goes with the row set.
+    return AskYesNo(title(), std::string(fault.what()) + "\nClose without saving it?", Answer::kNo,
+                    Icon::kWarning);
   }
 }
 
