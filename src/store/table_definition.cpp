@@ -77,7 +77,7 @@ void MakeFile(const std::filesystem::path& path, std::string_view file) {
 
 void MakeFilesOfLaterVersions(const std::filesystem::path& folder) {
   const auto version = VersionOf(FindFile(folder, data_file::kJobs));
-  if (!version || *version >= kSchemaVersion) return;
+  if (!version) return;
   for (const TableDefinition& table : TableDefinitions()) {
     const std::filesystem::path path = FindFile(folder, table.file);
     const auto is_there = [](const std::filesystem::path& file) {
