@@ -20,7 +20,7 @@ constexpr std::string_view kUsage =
     "Lays down a program folder: databases, settings, lists, letters and fonts.\n"
     "What is in FOLDER already stays as it is.\n"
     "\n"
-    "  --sample     fill the new jobs database with the jobs of an invented shop\n"
+    "  --sample     fill a new shop with the jobs and catalogues of an invented one\n"
     "  --data DIR   take what is laid down from DIR\n"
     "  --           what follows is no option\n";
 

@@ -7,6 +7,7 @@
 
 #include "setup/data_folder.h"
 #include "setup/first_rows.h"
+#include "setup/sample_catalogues.h"
 #include "store/data_files.h"
 #include "store/database.h"
 #include "store/table_definition.h"
@@ -25,7 +26,7 @@ constexpr std::string_view kTextFiles[] = {
 };
 constexpr std::string_view kFontsFolder = "Fonts";
 
-void MakeDatabase(const fs::path& file, std::string_view name, const fs::path& data) {
+void MakeDatabase(const fs::path& file, std::string_view name, const fs::path& data, bool sample) {
   // Gives the database the rights of all files that are laid down.
   ReplaceFile(file, "");
   Database database(file, Database::Mode::kCreate);
@@ -34,18 +35,20 @@ void MakeDatabase(const fs::path& file, std::string_view name, const fs::path& d
     if (table.file != name) continue;
     CreateTable(database, table);
     AddFirstRow(database, table, data);
+    if (sample) AddSampleRows(database, table, data);
   }
   transaction.Commit();
 }
 
-void AddDatabases(std::vector<LaidDownPiece>& pieces, const fs::path& data) {
+void AddDatabases(std::vector<LaidDownPiece>& pieces, const fs::path& data, bool sample) {
   std::vector<std::string_view> names;
   for (const TableDefinition& table : TableDefinitions()) {
     if (std::ranges::find(names, table.file) == names.end()) names.push_back(table.file);
   }
   for (const std::string_view name : names) {
-    pieces.push_back(
-        {std::string(name), [name, data](const fs::path& file) { MakeDatabase(file, name, data); }});
+    pieces.push_back({std::string(name), [name, data, sample](const fs::path& file) {
+                        MakeDatabase(file, name, data, sample);
+                      }});
   }
 }
 
@@ -71,9 +74,9 @@ void AddFonts(std::vector<LaidDownPiece>& pieces, const fs::path& data) {
 
 }  // namespace
 
-std::vector<LaidDownPiece> LaidDownPieces(const fs::path& data) {
+std::vector<LaidDownPiece> LaidDownPieces(const fs::path& data, bool sample) {
   std::vector<LaidDownPiece> pieces;
-  AddDatabases(pieces, data);
+  AddDatabases(pieces, data, sample);
   AddTextFiles(pieces, data);
   AddFonts(pieces, data);
   return pieces;

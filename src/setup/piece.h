@@ -15,7 +15,8 @@ struct LaidDownPiece {
 };
 
 // Every file that is laid down, in the order in which it is told: databases, settings, lists, fonts. `data`
-// is read as the pieces are made, apart from the names of the fonts.
-std::vector<LaidDownPiece> LaidDownPieces(const std::filesystem::path& data);
+// is read as the pieces are made, apart from the names of the fonts. `sample`: the catalogues are those of
+// the sample shop; else they are empty.
+std::vector<LaidDownPiece> LaidDownPieces(const std::filesystem::path& data, bool sample);
 
 }  // namespace tarvane::setup

@@ -76,8 +76,8 @@ void RemoveStagingFolders(const fs::path& folder) {
   for (const fs::path& path : left) fs::remove_all(path, error);
 }
 
-bool IsThere(const fs::path& folder, const LaidDownPiece& piece) {
-  const fs::path file = FindFile(folder, piece.name);
+bool IsThere(const fs::path& folder, std::string_view name) {
+  const fs::path file = FindFile(folder, name);
   std::error_code error;
   const fs::file_status status = fs::status(file, error);
   if (fs::is_directory(status))
@@ -146,16 +146,15 @@ void SetUpFolder(const SetupOptions& options, const SetupReport& report) {
     const auto lock = ShopLock::Take(options.folder);
     if (!lock) throw Fault(ShopIsOpenText(options.folder));
     if (lock->holds()) RemoveStagingFolders(options.folder);
-    const std::vector<LaidDownPiece> pieces = LaidDownPieces(options.data);
+    const bool sample = options.sample && !IsThere(options.folder, data_file::kJobs);
+    const std::vector<LaidDownPiece> pieces = LaidDownPieces(options.data, sample);
     std::vector<bool> there;
-    bool jobs_there = false;
     for (const LaidDownPiece& piece : pieces) {
-      there.push_back(IsThere(options.folder, piece));
+      there.push_back(IsThere(options.folder, piece.name));
       if (!there.back()) RequireNoJournal(options.folder, piece);
-      if (piece.name == data_file::kJobs) jobs_there = there.back();
     }
-    LayDown(options, pieces, there, options.sample && !jobs_there, report);
-    if (options.sample) report(kSampleName, jobs_there ? SetupResult::kSkipped : SetupResult::kCreated);
+    LayDown(options, pieces, there, sample, report);
+    if (options.sample) report(kSampleName, sample ? SetupResult::kCreated : SetupResult::kSkipped);
   } catch (...) {
     std::error_code ignored;
     if (created) fs::remove(options.folder, ignored);

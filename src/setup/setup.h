@@ -9,7 +9,7 @@ namespace tarvane::setup {
 struct SetupOptions {
   std::filesystem::path folder;  // the program folder; made where it isn't there, its parents too
   std::filesystem::path data;    // what is laid down, as in the project's data/
-  bool sample = false;           // fill a new jobs database with the sample shop
+  bool sample = false;           // fill a new shop with the sample jobs and catalogues
 };
 
 enum class SetupResult {
