@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "listing/reclist_engine.h"
 #include "screen/kinds.h"
 #include "store/table_definition.h"
 #include "text/trim.h"
@@ -66,6 +67,7 @@ void Catalogue::SetRules() {
   CmdFabAdd.OnClicked([this] { Add(); });
   Update.OnClicked([this] { Save(); });
   CmdDelete.OnClicked([this] { Delete(); });
+  CmdExcel.OnClicked([this] { listing::RECLIST_ENGINE(shop_).CopyFlexDataToExcel(*this, MSFlexGrid1); });
   CmdCancel.OnClicked([this] { UserClose(); });
   MSFlexGrid1.OnRowOpened([this] {
     if (use_ != nullptr) {

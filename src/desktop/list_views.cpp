@@ -18,6 +18,7 @@
 #include "desktop/row_table.h"
 #include "desktop/text.h"
 #include "desktop/theme.h"
+#include "listing/grid_export.h"
 
 namespace tarvane::desktop {
 namespace {
@@ -138,16 +139,38 @@ class GridTable : public PickingView<RowTable> {
   std::function<void()> insert;  // what the keys do; may be empty
   std::function<void()> remove;
 
+  bool opens = true;                     // whether something happens to a row that is opened
+  std::function<void()> draw_selection;  // as the grid has it
+  std::function<void()> export_rows;
+
+  // The columns that are shown, in their order.
+  std::vector<int> ShownColumns() const {
+    std::vector<int> columns;
+    for (int place = 0; place < horizontalHeader()->count(); ++place) {
+      const int column = horizontalHeader()->logicalIndex(place);
+      if (!isColumnHidden(column)) columns.push_back(column);
+    }
+    return columns;
+  }
+
  protected:
   void contextMenuEvent(QContextMenuEvent* event) override {
     const bool by_key = event->reason() == QContextMenuEvent::Keyboard;
-    const QModelIndex at = by_key ? currentIndex() : indexAt(event->pos());
-    if (!at.isValid()) return;
+    const QPersistentModelIndex at = by_key ? currentIndex() : indexAt(event->pos());
+    const QPoint middle = at.isValid() ? visualRect(at).center() : viewport()->rect().center();
     QMenu menu;
+    QAction* open = menu.addAction("&Open");
+    open->setVisible(opens);
     QAction* cell = menu.addAction("Copy &Cell");
     QAction* row = menu.addAction("Copy &Row");
-    const QPoint place = by_key ? viewport()->mapToGlobal(visualRect(at).center()) : event->globalPos();
-    const QAction* chosen = menu.exec(place);
+    for (QAction* action : {open, cell, row}) action->setEnabled(at.isValid());
+    QAction* all = menu.addAction("To &Spreadsheet...");
+    const QAction* chosen = menu.exec(by_key ? viewport()->mapToGlobal(middle) : event->globalPos());
+    // The press of the mouse marked a row that isn't the grid's.
+    draw_selection();
+    if (chosen == all) return export_rows();
+    if (chosen == nullptr || !at.isValid()) return;
+    if (chosen == open) opened(at.row());
     if (chosen == cell) QApplication::clipboard()->setText(at.data().toString());
     if (chosen == row) QApplication::clipboard()->setText(RowText(at.row()));
   }
@@ -172,13 +195,10 @@ class GridTable : public PickingView<RowTable> {
   }
 
  private:
-  // The columns that are shown, in their order, with tabs between them.
+  // The shown cells with tabs between them.
   QString RowText(int row) const {
     QStringList cells;
-    for (int place = 0; place < horizontalHeader()->count(); ++place) {
-      const int column = horizontalHeader()->logicalIndex(place);
-      if (!isColumnHidden(column)) cells += model()->index(row, column).data().toString();
-    }
+    for (const int column : ShownColumns()) cells += model()->index(row, column).data().toString();
     return cells.join('\t');
   }
 };
@@ -278,6 +298,22 @@ void DrawSelection(QTableView* table, const Grid& grid) {
   table->setCurrentIndex(row < 0 ? QModelIndex() : table->model()->index(row, column));
 }
 
+// A column without a heading is the mark of the row.
+std::vector<listing::SheetColumn> SheetColumns(const GridTable& table, const Grid& grid) {
+  std::vector<listing::SheetColumn> columns;
+  for (const int column : table.ShownColumns()) {
+    const QString shown = table.model()->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    if (!shown.isEmpty() && !grid.Cell(0, column).empty()) columns.push_back({column, FromQt(shown)});
+  }
+  return columns;
+}
+
+void Export(Form& form, const GridTable& table, Grid& grid, const std::string& name) {
+  form.ActLater(grid, [&grid, columns = SheetColumns(table, grid), name](Control&) {
+    grid.screen().Guard([&] { listing::CopyFlexDataToExcel(grid.screen(), grid, columns, name); });
+  });
+}
+
 }  // namespace
 
 QTableView* MakeTable(Form& form, Grid& grid, const TableLook& look) {
@@ -302,6 +338,11 @@ QTableView* MakeTable(Form& form, Grid& grid, const TableLook& look) {
   table->SetEmptyText(ToQt(look.empty));
   table->insert = Pressing(form, grid, look.insert);
   table->remove = Pressing(form, grid, look.remove);
+  table->opens = grid.opens_rows();
+  table->draw_selection = [table, &grid] { DrawSelection(table, grid); };
+  table->export_rows = [&form, table, &grid, name = std::string(look.name)] {
+    Export(form, *table, grid, name);
+  };
   table->picked = [&form, &grid](int row) {
     form.ActLater(grid, [&grid, row](Control&) { grid.UserSelectRow(row + 1); });
   };

@@ -302,17 +302,65 @@ std::optional<std::string> QtHost::Input(std::string_view title, std::string_vie
   return std::nullopt;
 }
 
+namespace {
+
+// The worker's documents; where there is no such folder, what is the worker's own.
+QDir Documents() {
+  const QDir documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  return documents.exists() ? documents : QDir::home();
+}
+
+// "*.xlsx" of "Spreadsheet (*.xlsx)": ".xlsx"; "" where the kind takes any name.
+QString EndingOf(const QString& qt_filter) {
+  const QString pattern = qt_filter.section('(', -1).section(')', 0, 0).section(' ', 0, 0);
+  return pattern.startsWith("*.") && !pattern.endsWith('*') ? pattern.mid(1) : QString();
+}
+
+// With the ending of the chosen kind, where the name has none of those on offer.
+QString WithEnding(const QString& name, const QString& kind_chosen, const QStringList& kinds) {
+  const bool has_one = std::ranges::any_of(kinds, [&name](const QString& kind) {
+    const QString ending = EndingOf(kind);
+    return ending.isEmpty() || name.endsWith(ending, Qt::CaseInsensitive);
+  });
+  return has_one ? name : name + EndingOf(kind_chosen);
+}
+
+QString RunFileDialog(QFileDialog& dialog) {
+  // The dialog comes as wide as its contents.
+  dialog.resize(dialog.sizeHint());
+  KeepOnScreen(dialog);
+  if (dialog.exec() != QDialog::Accepted) return {};
+  return dialog.selectedFiles().value(0);
+}
+
+}  // namespace
+
+bool QtHost::MayReplace(const QString& file) {
+  const QString text = QString("%1 already exists.\nDo you want to replace it?").arg(file);
+  const Question question{"Save As", FromQt(text), {Answer::kYes, Answer::kNo}, Answer::kNo, Icon::kWarning};
+  return Ask(question) == Answer::kYes;
+}
+
 std::optional<std::filesystem::path> QtHost::ChooseFile(FileChoice kind, std::string_view title,
                                                         std::string_view filter, std::string_view suggested) {
-  const QDir documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  const QString start = suggested.empty() ? QString() : documents.filePath(ToQt(suggested));
-  QString kind_chosen;
-  QString chosen =
-      kind == FileChoice::kOpen
-          ? QFileDialog::getOpenFileName(TopWindow(), ToQt(title), start, QtFilter(filter), &kind_chosen)
-          : QFileDialog::getSaveFileName(TopWindow(), ToQt(title), start, QtFilter(filter), &kind_chosen);
-  if (chosen.isEmpty()) return std::nullopt;
-  return std::filesystem::path(chosen.toStdU16String());
+  const bool saves = kind == FileChoice::kSave;
+  const QStringList kinds = QtFilter(filter).split(";;", Qt::SkipEmptyParts);
+  QFileDialog dialog(TopWindow(), ToQt(title), Documents().path());
+  dialog.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialog.setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  dialog.setNameFilters(kinds);
+  if (!suggested.empty()) dialog.selectFile(ToQt(suggested));
+  while (true) {
+    const QString chosen = RunFileDialog(dialog);
+    if (chosen.isEmpty()) break;
+    const QString file = saves ? WithEnding(chosen, dialog.selectedNameFilter(), kinds) : chosen;
+    // The dialog has asked about the name as it was typed.
+    if (file == chosen || !QFileInfo::exists(file) || MayReplace(file)) {
+      return std::filesystem::path(file.toStdU16String());
+    }
+  }
+  if (!forms_.empty()) forms_.back()->PutFocusBack();
+  return std::nullopt;
 }
 
 void QtHost::Beep() { QApplication::beep(); }
@@ -322,6 +370,13 @@ void QtHost::SetBusy(bool busy) {
   if (busy && !is_busy) QApplication::setOverrideCursor(Qt::WaitCursor);
   if (!busy && is_busy) QApplication::restoreOverrideCursor();
 }
+
+bool QtHost::ShowProgress(std::string_view what, std::int64_t done, std::int64_t total) {
+  if (!progress_) progress_ = std::make_unique<ProgressWindow>();
+  return progress_->Show(TopWindow(), ToQt(what), done, total);
+}
+
+void QtHost::EndProgress() { progress_.reset(); }
 
 DateTime QtHost::Now() {
   const QDateTime now = QDateTime::currentDateTime();

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "desktop/form.h"
+#include "desktop/progress_window.h"
 #include "screen/host.h"
 
 class QPrinter;
@@ -37,6 +38,8 @@ class QtHost : public Host {
                                                   std::string_view suggested) override;
   void Beep() override;
   void SetBusy(bool busy) override;
+  bool ShowProgress(std::string_view what, std::int64_t done, std::int64_t total) override;
+  void EndProgress() override;
   DateTime Now() override;
   int RandomDigit() override;
   std::string ClipboardText() override;
@@ -60,6 +63,7 @@ class QtHost : public Host {
  private:
   std::unique_ptr<QWidget> MakeWindow(Screen& screen);
   bool MayLeave(const Form& form);
+  bool MayReplace(const QString& file);
   void FollowLogOut();
   void Place(const Form& form) const;
   void KeepPlace(const Form& form) const;
@@ -70,7 +74,8 @@ class QtHost : public Host {
   std::vector<Form*> forms_;
   std::function<void(Form&)> on_shown_;
   std::unique_ptr<QPrinter> printer_;
-  QObject log_out_;  // ends the watch for a log-out with the host
+  std::unique_ptr<ProgressWindow> progress_;  // null while nothing long runs
+  QObject log_out_;                           // ends the watch for a log-out with the host
   bool remembers_ = false;
   std::map<std::string, std::string> hints_;  // by text: what it was shown about last
 };

@@ -1,7 +1,9 @@
 #include "listing/reclist_engine.h"
 
 #include <memory>
+#include <utility>
 
+#include "listing/grid_export.h"
 #include "screen/field.h"
 #include "shop/shop.h"
 #include "store/data_files.h"
@@ -43,5 +45,9 @@ void Load(Shop& shop, ListBox& list, const LineForm& form) {
 
 void RECLIST_ENGINE::LoadItemsList(ListBox& list) { Load(shop_, list, kTemplates); }
 void RECLIST_ENGINE::LoadAccessoriesList(ListBox& list) { Load(shop_, list, kAccessories); }
+
+void RECLIST_ENGINE::CopyFlexDataToExcel(Screen& screen, const Grid& grid, std::vector<SheetColumn> columns) {
+  listing::CopyFlexDataToExcel(screen, grid, std::move(columns));
+}
 
 }  // namespace tarvane::listing

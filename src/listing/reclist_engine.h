@@ -1,7 +1,12 @@
 #pragma once
 
+#include <vector>
+
+#include "listing/spreadsheet.h"
+
 namespace tarvane {
 class ListBox;
+class Screen;
 class Shop;
 }  // namespace tarvane
 
@@ -20,6 +25,9 @@ class RECLIST_ENGINE {
 
   void LoadItemsList(ListBox& list);        // the templates of the item wizard
   void LoadAccessoriesList(ListBox& list);  // the accessories
+
+  // A grid to a spreadsheet (grid_export.h).
+  static void CopyFlexDataToExcel(Screen& screen, const Grid& grid, std::vector<SheetColumn> columns = {});
 
  private:
   Shop& shop_;

@@ -24,12 +24,13 @@ class Progress {
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
 
+  // Steps between those are passed over.
+  static constexpr std::int64_t kStepsUnseen = 256;
+
   // False where the worker wants it to stop. May be called as often as one likes.
   bool Step(std::int64_t done) { return done % kStepsUnseen != 0 || host_.ShowProgress(what_, done, total_); }
 
  private:
-  static constexpr std::int64_t kStepsUnseen = 256;
-
   Host& host_;
   std::string what_;
   std::int64_t total_;

@@ -7,6 +7,10 @@
 
 namespace tarvane {
 
+void Grid::ReadCells(std::int64_t row, std::span<const int> columns, std::span<std::string> cells) const {
+  for (std::size_t at = 0; at < columns.size(); ++at) cells[at] = Cell(row, columns[at]);
+}
+
 void Grid::UserSelectRow(std::int64_t row) {
   screen().Guard([this, row] {
     screen().SetFocus(*this);
@@ -115,6 +119,17 @@ std::string TableGrid::Cell(std::int64_t row, int column) const {
   if (row == 0) return columns_[at].heading;
   const std::vector<std::string>& cells = rows_->PeekRow(row - 1, indexes_);
   return at < cells.size() ? cells[at] : "";
+}
+
+void TableGrid::ReadCells(std::int64_t row, std::span<const int> columns,
+                          std::span<std::string> cells) const {
+  if (row < 1) return Grid::ReadCells(row, columns, cells);
+  FindColumns();
+  const std::vector<std::string>& values = rows_->PeekRow(row - 1, indexes_);
+  for (std::size_t at = 0; at < columns.size(); ++at) {
+    const auto place = static_cast<std::size_t>(columns[at]);
+    cells[at] = place > 0 && place <= values.size() ? std::string_view(values[place - 1]) : "";
+  }
 }
 
 std::int64_t TableGrid::selected_row() const {

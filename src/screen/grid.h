@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -24,6 +25,8 @@ class Grid : public Control {
   virtual int ColumnCount() const = 0;
   virtual std::string Cell(std::int64_t row, int column) const = 0;  // "" outside
   virtual std::int64_t selected_row() const = 0;
+  // Some cells of a row at once, into `cells`, which has as many: for whoever reads all rows.
+  virtual void ReadCells(std::int64_t row, std::span<const int> columns, std::span<std::string> cells) const;
 
   // Widths in twentieths of a point, one a column; 0 or missing: the face chooses.
   const std::vector<int>& widths() const { return widths_; }
@@ -31,6 +34,7 @@ class Grid : public Control {
 
   void OnRowSelected(Rule rule) { row_selected_.push_back(std::move(rule)); }
   void OnRowOpened(Rule rule) { row_opened_.push_back(std::move(rule)); }
+  bool opens_rows() const { return !row_opened_.empty(); }
   void UserSelectRow(std::int64_t row);
   void UserOpenRow(std::int64_t row);  // double click, or Enter: selects, then opens
 
@@ -95,6 +99,7 @@ class TableGrid : public Grid {
   int ColumnCount() const override;  // the row marker counts
   std::string Cell(std::int64_t row, int column) const override;
   std::int64_t selected_row() const override;
+  void ReadCells(std::int64_t row, std::span<const int> columns, std::span<std::string> cells) const override;
 
   // The row set has other rows now, or another current one: faces draw anew.
   void RowsChanged();

@@ -35,6 +35,7 @@ struct OwnedHeader {
 const std::vector<OwnedHeader> kOwnedHeaders = {
     {std::regex("Q[A-Z].*|Qt.*/.*"), "desktop"},
     {std::regex("sqlite3.*\\.h"), "store"},
+    {std::regex("xlsxwriter.*\\.h"), "listing"},
 };
 
 struct Include {

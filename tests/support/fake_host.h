@@ -33,6 +33,10 @@ class FakeHost : public Host {
   std::vector<Question> questions;
   std::vector<std::string> suggestions;  // file names
   std::vector<std::string> launched;
+  bool can_launch = true;           // otherwise Launch faults
+  std::vector<std::int64_t> steps;  // of ShowProgress
+  int steps_until_stop = -1;        // none left: the worker stops; -1: never
+  int progress_ends = 0;
   std::vector<PrintedPage> printed;
   std::string clipboard;
   DateTime now = {MakeDay(2026, 3, 9), 14, 5, 0};
@@ -85,7 +89,15 @@ class FakeHost : public Host {
   int RandomDigit() override { return digit_ = (digit_ + 7) % 10; }
   std::string ClipboardText() override { return clipboard; }
   void SetClipboardText(std::string_view text) override { clipboard = text; }
-  void Launch(std::string_view target) override { launched.emplace_back(target); }
+  void Launch(std::string_view target) override {
+    if (!can_launch) throw Fault("Nothing here can open it.");
+    launched.emplace_back(target);
+  }
+  bool ShowProgress(std::string_view, std::int64_t done, std::int64_t) override {
+    steps.push_back(done);
+    return steps_until_stop < 0 || steps_until_stop-- > 0;
+  }
+  void EndProgress() override { ++progress_ends; }
   void PrintPages(const std::vector<PrintedPage>& pages) override {
     printed.insert(printed.end(), pages.begin(), pages.end());
   }
