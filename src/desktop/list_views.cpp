@@ -143,6 +143,23 @@ class GridTable : public PickingView<RowTable> {
   std::function<void()> draw_selection;  // as the grid has it
   std::function<void()> export_rows;
 
+  // The column that takes the room that the others leave, but never less than `least`; -1 for the last one.
+  void SetWide(int column, int least) {
+    wide_ = column;
+    least_ = least;
+    horizontalHeader()->setStretchLastSection(column < 0);
+    FitWide();
+  }
+  void FitWide() {
+    if (wide_ < 0 || isColumnHidden(wide_)) return;
+    int others = 0;
+    for (int column = 0; column < horizontalHeader()->count(); ++column) {
+      if (column != wide_ && !isColumnHidden(column)) others += columnWidth(column);
+    }
+    const int width = std::max(least_, viewport()->width() - others);
+    if (width != columnWidth(wide_)) setColumnWidth(wide_, width);
+  }
+
   // The columns that are shown, in their order.
   std::vector<int> ShownColumns() const {
     std::vector<int> columns;
@@ -154,6 +171,10 @@ class GridTable : public PickingView<RowTable> {
   }
 
  protected:
+  void resizeEvent(QResizeEvent* event) override {
+    RowTable::resizeEvent(event);
+    FitWide();
+  }
   void contextMenuEvent(QContextMenuEvent* event) override {
     const bool by_key = event->reason() == QContextMenuEvent::Keyboard;
     const QPersistentModelIndex at = by_key ? currentIndex() : indexAt(event->pos());
@@ -195,6 +216,9 @@ class GridTable : public PickingView<RowTable> {
   }
 
  private:
+  int wide_ = -1;
+  int least_ = 0;
+
   // The shown cells with tabs between them.
   QString RowText(int row) const {
     QStringList cells;
@@ -212,6 +236,9 @@ std::function<void()> Pressing(Form& form, Grid& grid, Button* button) {
   };
 }
 
+// What the widest column keeps in a window that is too narrow for all of them, in digits.
+constexpr int kLeastWide = 14;
+
 // The grid's widths are meant for a text of 8.25 points.
 int WidthOf(const Grid& grid, const GridModel& model, int column) {
   if (const int digits = model.WidthOf(column); digits > 0) return Digits(digits) + Quarters(2);
@@ -224,13 +251,15 @@ int WidthOf(const Grid& grid, const GridModel& model, int column) {
   return std::max(QFontMetrics(QApplication::font()).horizontalAdvance(heading) + Quarters(4), Digits(7));
 }
 
-void MeasureColumns(QTableView* table, const GridModel& model, const Grid& grid) {
+void MeasureColumns(GridTable* table, const GridModel& model, const Grid& grid) {
   for (int column = 0; column < grid.ColumnCount(); ++column) {
     if (!table->isColumnHidden(column)) table->setColumnWidth(column, WidthOf(grid, model, column));
   }
+  const int wide = model.look().wide.empty() ? -1 : model.ColumnOf(model.look().wide);
+  table->SetWide(wide, wide < 0 ? 0 : std::min(WidthOf(grid, model, wide), Digits(kLeastWide)));
 }
 
-void ArrangeColumns(QTableView* table, const GridModel& model, const Grid& grid) {
+void ArrangeColumns(GridTable* table, const GridModel& model, const Grid& grid) {
   QHeaderView* header = table->horizontalHeader();
   for (int column = 0; column < grid.ColumnCount(); ++column) {
     table->setColumnHidden(column, !model.IsShown(column));
@@ -240,14 +269,12 @@ void ArrangeColumns(QTableView* table, const GridModel& model, const Grid& grid)
     if (const int at = model.ColumnOf(column.heading); at >= 0)
       header->moveSection(header->visualIndex(at), place++);
   }
-  const int wide = model.look().wide.empty() ? -1 : model.ColumnOf(model.look().wide);
-  header->setStretchLastSection(wide < 0);
-  if (wide >= 0) header->setSectionResizeMode(wide, QHeaderView::Stretch);
   MeasureColumns(table, model, grid);
 }
 
-void OfferColumns(QTableView* table) {
+void OfferColumns(GridTable* table) {
   QHeaderView* header = table->horizontalHeader();
+  QObject::connect(header, &QHeaderView::sectionResized, table, [table] { table->FitWide(); });
   header->setContextMenuPolicy(Qt::CustomContextMenu);
   QObject::connect(header, &QWidget::customContextMenuRequested, table, [table, header](const QPoint& at) {
     QMenu menu;
@@ -257,8 +284,10 @@ void OfferColumns(QTableView* table) {
       QAction* action = menu.addAction(QString(heading).replace("&", "&&"));
       action->setCheckable(true);
       action->setChecked(!table->isColumnHidden(column));
-      QObject::connect(action, &QAction::toggled, table,
-                       [table, column](bool shown) { table->setColumnHidden(column, !shown); });
+      QObject::connect(action, &QAction::toggled, table, [table, column](bool shown) {
+        table->setColumnHidden(column, !shown);
+        table->FitWide();
+      });
     }
     menu.exec(header->mapToGlobal(at));
   });

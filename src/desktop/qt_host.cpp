@@ -8,6 +8,7 @@
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPrinter>
@@ -19,6 +20,7 @@
 #include <QSettings>
 #include <QShortcut>
 #include <QStandardPaths>
+#include <QTableView>
 #include <QTimer>
 #include <QUrl>
 #include <algorithm>
@@ -190,9 +192,37 @@ void QtHost::RunModal(Screen& screen) {
   window->hide();
 }
 
+namespace {
+
+// Where the columns of a table are kept: for as many as there are.
+QString ColumnsKey(const Form& form, const QTableView& table) {
+  const Control* grid = form.ControlOf(table);
+  return QString("columns/%1/%2/%3")
+      .arg(ToQt(form.screen().name()), grid == nullptr ? QString() : ToQt(grid->name()))
+      .arg(table.horizontalHeader()->count());
+}
+
+// As the worker left them: their widths, their order, and which are seen.
+void RestoreColumns(const Form& form) {
+  for (QTableView* table : form.window()->findChildren<QTableView*>()) {
+    const QByteArray kept = QSettings().value(ColumnsKey(form, *table)).toByteArray();
+    if (!kept.isEmpty()) table->horizontalHeader()->restoreState(kept);
+  }
+}
+
+void KeepColumns(const Form& form) {
+  for (const QTableView* table : form.window()->findChildren<QTableView*>()) {
+    if (form.ControlOf(*table) != nullptr)
+      QSettings().setValue(ColumnsKey(form, *table), table->horizontalHeader()->saveState());
+  }
+}
+
+}  // namespace
+
 void QtHost::Place(const Form& form) const {
   QWidget* window = form.window();
   const FormEntry* entry = FindForm(form.screen());
+  if (remembers_) RestoreColumns(form);
   if (remembers_ && entry->remembers_place) {
     const QByteArray kept = QSettings().value(PlaceKey(form.screen())).toByteArray();
     if (!kept.isEmpty() && window->restoreGeometry(kept)) return KeepOnScreen(*window);
@@ -215,6 +245,7 @@ void QtHost::Place(const Form& form) const {
 }
 
 void QtHost::KeepPlace(const Form& form) const {
+  if (remembers_) KeepColumns(form);
   if (!remembers_ || !FindForm(form.screen())->remembers_place) return;
   QSettings().setValue(PlaceKey(form.screen()), form.window()->saveGeometry());
 }
