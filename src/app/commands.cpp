@@ -4,6 +4,7 @@
 #include "app/main_screen.h"
 #include "app/show.h"
 #include "app/splash.h"
+#include "catalogues/products.h"
 #include "catalogues/suppliers.h"
 #include "tools/list_admin.h"
 #include "tools/options.h"
@@ -67,7 +68,7 @@ const std::vector<Command>& Commands() {
       {kEntry, "MunData", "MnuPrevRec",         -1, "&Previous Record", "", Run<&Main::PreviousRecord>},
       {kEntry, "MunData", "munPay",             -1, "Making Payment", "", kNotBuilt},
       {kEntry, "MunData", "MunCustomersDetails", -1, "&Customers Records", "", kNotBuilt},
-      {kEntry, "MunData", "MunFabricDatabase",  -1, "Products Database", "", kNotBuilt},
+      {kEntry, "MunData", "MunFabricDatabase",  -1, "Products Database", "", Show<catalogues::FrmFabricDatabase2>},
       {kEntry, "MunData", "MunSuppliersData",   -1, "Suppliers Database", "", Show<catalogues::frmSuppliers2>},
       {kEntry, "MunData", "munTem",             -1, "Wizard Templates Database", "", kNotBuilt},
       {kEntry, "MunData", "MunFrmPopUp1",       -1, "Pricing Database for Curtain Wizard", "", kNotBuilt},
@@ -113,7 +114,7 @@ const std::vector<Command>& Commands() {
       {kTool,  "", "Quick Clear",     -1, "", "Quick Clear", kNotBuilt},
       {kTool,  "", "Estimate",        -1, "", "Curtain Wizard", Run<&Main::ShowQuickWizard>},
       {kTool,  "", "Cdatabase",       -1, "", "Customers Database", kNotBuilt},
-      {kTool,  "", "products",        -1, "", "Products Database", kNotBuilt},
+      {kTool,  "", "products",        -1, "", "Products Database", Show<catalogues::FrmFabricDatabase2>},
       {kTool,  "", "Sdatabase",       -1, "", "Suppliers Database", Show<catalogues::frmSuppliers2>},
       {kTool,  "", "PricingDatabase", -1, "", "Pricing Database", kNotBuilt},
 
@@ -126,7 +127,7 @@ const std::vector<Command>& Commands() {
       {kButton, "", "Command11",            -1, "QUICK SHOP SALES (POS)", "", kNotBuilt},
       {kButton, "", "Command10",            -1, "Pricing Database", "", kNotBuilt},
       {kButton, "", "CmdCustomersDatabase", -1, "&Customer Database F3", "", kNotBuilt},
-      {kButton, "", "Command4",             -1, "&Your Product Database F4", "", kNotBuilt},
+      {kButton, "", "Command4",             -1, "&Your Product Database F4", "", Show<catalogues::FrmFabricDatabase2>},
       {kButton, "", "CmdSuppliers",         -1, "Your &Suppliers Database", "", Show<catalogues::frmSuppliers2>},
       {kButton, "", "Command2",             -1, "&Quick Curtain Wizard", "", Run<&Main::ShowQuickWizard>},
       {kButton, "", "CmdGetDetails",        -1, "&Get Customer Details", "", kNotBuilt},

@@ -101,6 +101,15 @@ void Catalogue::OpenFor(Button& use) {
   Search.CboFabSearch.OnEnterKey([this] {
     if (Search.CboFabSearch.text() == Finder::kPrompt) use_->Press();
   });
+  Data1.OnReposition([this] { use_->SetEnabled(Data1.HasRow()); });
+}
+
+bool Catalogue::LeaveForUse() {
+  if (!Data1.HasRow()) return false;
+  const bool adding = Data1.rows().IsAdding();
+  const std::int64_t count = Data1.rows().RecordCount();
+  Data1.Leave();
+  return Data1.HasRow() && (!adding || Data1.rows().RecordCount() > count);
 }
 
 void Catalogue::Add() {

@@ -79,8 +79,11 @@ class Catalogue : public Screen {
   // bound by the screen itself, before. The key's field is read-only. Faults for a column without one.
   void BindColumns();
   void SetFirstField(TextField& field) { first_field_ = &field; }
-  // Shows the button, and makes it what the screen is there for.
+  // Shows the button, and makes it what the screen is there for. It is off while there is no row.
   void OpenFor(Button& use);
+  // Before the current row is handed over: commits what waits. False where there is nothing to hand over: no
+  // row, or a new one in which nothing was put, which is gone then.
+  bool LeaveForUse();
 
   void Load() override;
   bool MayClose() override;

@@ -3,6 +3,7 @@
 #include <QBoxLayout>
 #include <QHelpEvent>
 #include <QPainter>
+#include <QStyle>
 #include <QToolTip>
 #include <algorithm>
 #include <memory>
@@ -54,7 +55,8 @@ QSize FoldingRow::sizeHint() const {
     const QSize hint = layout_->itemAt(at)->sizeHint();
     size = {size.width() + hint.width() + layout_->spacing(), std::max(size.height(), hint.height())};
   }
-  return size;
+  // What comes into view later may need a scroll bar; it must not fold the row.
+  return size + QSize(style()->pixelMetric(QStyle::PM_ScrollBarExtent), 0);
 }
 
 // The width of the widest piece: the row is never what keeps the window wide.

@@ -24,6 +24,8 @@ constexpr std::string_view kTextFiles[] = {
     data_file::kCurtainList,   data_file::kTieBacksList,      data_file::kTieBacksStyleList,
     data_file::kTrimmingsList, data_file::kCheckList,         data_file::kSalesPersonsList,
 };
+// Their layout has line ends between the lines only.
+constexpr std::string_view kExactFiles[] = {data_file::kBarcodeSymbols, data_file::kBarcodePatterns};
 constexpr std::string_view kFontsFolder = "Fonts";
 
 void MakeDatabase(const fs::path& file, std::string_view name, const fs::path& data, bool sample) {
@@ -60,6 +62,13 @@ void AddTextFiles(std::vector<LaidDownPiece>& pieces, const fs::path& data) {
   }
 }
 
+void AddExactFiles(std::vector<LaidDownPiece>& pieces, const fs::path& data) {
+  for (const std::string_view name : kExactFiles) {
+    pieces.push_back({std::string(name),
+                      [name, data](const fs::path& file) { ReplaceFile(file, ReadDataFile(data / name)); }});
+  }
+}
+
 void AddFonts(std::vector<LaidDownPiece>& pieces, const fs::path& data) {
   std::error_code error;
   std::vector<fs::path> sources;
@@ -78,6 +87,7 @@ std::vector<LaidDownPiece> LaidDownPieces(const fs::path& data, bool sample) {
   std::vector<LaidDownPiece> pieces;
   AddDatabases(pieces, data, sample);
   AddTextFiles(pieces, data);
+  AddExactFiles(pieces, data);
   AddFonts(pieces, data);
   return pieces;
 }

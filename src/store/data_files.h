@@ -26,6 +26,8 @@ inline constexpr std::string_view kTieBacksStyleList = "TieBacksStylelist.Dat";
 inline constexpr std::string_view kTrimmingsList = "Trimmingslist.Dat";
 inline constexpr std::string_view kCheckList = "Checklist.Dat";
 inline constexpr std::string_view kSalesPersonsList = "SalesPersonslist.Dat";
+inline constexpr std::string_view kBarcodeSymbols = "char.txt";
+inline constexpr std::string_view kBarcodePatterns = "binary.txt";
 }  // namespace data_file
 
 // `name` (with forward slashes) below `folder`, each step matched without regard to case.

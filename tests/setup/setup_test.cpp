@@ -107,9 +107,24 @@ TEST_F(SetupTest, SettingsFilesAndListsAreCompleteWithCrLf) {
   for (const auto& [name, count] : lines) EXPECT_THAT(SplitLines(files.at(name)), SizeIs(count)) << name;
   EXPECT_TRUE(files.contains("Fonts/Helvetica.afm"));
   for (const auto& [name, content] : files) {
-    if (name.find(".mdb") != std::string::npos || name.starts_with("Fonts/")) continue;
+    const bool exact = name.starts_with("Fonts/") || name.ends_with(".txt");
+    if (exact) {
+      EXPECT_EQ(content, ReadFile(fs::path(TARVANE_DATA_DIR) / name)) << name;
+    }
+    if (exact || name.find(".mdb") != std::string::npos) continue;
     EXPECT_EQ(content, JoinLines(SplitLines(content))) << name;
   }
+}
+
+// Line ends stand between the lines: one behind the last would be a line of its own to those who split there.
+TEST_F(SetupTest, BarcodeTablesHaveTheirLayoutToTheByte) {
+  ASSERT_EQ(Run(), 0) << err_;
+  const auto files = Contents(shop_);
+  EXPECT_THAT(files.at("char.txt"), testing::StartsWith("0\t \r\n1\t!\r\n2\t\"\r\n"));
+  EXPECT_THAT(files.at("char.txt"), EndsWith("\r\n63\t_\r\n103\t<\r\n106\t>"));
+  EXPECT_THAT(files.at("binary.txt"), testing::StartsWith("11011001100\r\n"));
+  EXPECT_THAT(files.at("binary.txt"), EndsWith("\r\n1100011101011"));
+  EXPECT_THAT(SplitLines(files.at("binary.txt")), SizeIs(107));
 }
 
 TEST_F(SetupTest, TellsWhatItCreatedAndWhatItKept) {

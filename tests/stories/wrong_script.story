@@ -14,7 +14,7 @@ show TxtRoom
 # restart
 # exit 2
 close
-press MunFabricDatabase
+press MunReportOne
 # restart
 # exit 2
 close
