@@ -87,6 +87,7 @@ const std::array kForms = {
     Row<tools::frmOptions, BuildOptionsForm>("settings", kPlaced),
     Row<tools::FrmListAdmin, BuildListAdminForm>("option-lists", kPlaced),
     Row<tools::FrmEnterSalesPerson, BuildEnterSalesPersonForm>("sales-person", kCentred),
+    Row<catalogues::FrmItemsDatabase, BuildAccessoriesForm>("accessories", kPlaced),
     Row<catalogues::frmSuppliers2, BuildSuppliersForm>("suppliers", kPlaced),
     Row<FrmPreferences, BuildPreferencesForm>("preferences", kCentred, ShowPreferences),
     Row<MainCWizard, BuildWizardForm>("wizard", kPlaced, ShowItem),
