@@ -4,6 +4,7 @@
 #include "app/main_screen.h"
 #include "app/show.h"
 #include "app/splash.h"
+#include "catalogues/accessories.h"
 #include "catalogues/products.h"
 #include "catalogues/suppliers.h"
 #include "tools/list_admin.h"
@@ -72,7 +73,7 @@ const std::vector<Command>& Commands() {
       {kEntry, "MunData", "MunSuppliersData",   -1, "Suppliers Database", "", Show<catalogues::frmSuppliers2>},
       {kEntry, "MunData", "munTem",             -1, "Wizard Templates Database", "", kNotBuilt},
       {kEntry, "MunData", "MunFrmPopUp1",       -1, "Pricing Database for Curtain Wizard", "", kNotBuilt},
-      {kEntry, "MunData", "MunAccressDatabase", -1, "Accressories Database", "", kNotBuilt},
+      {kEntry, "MunData", "MunAccressDatabase", -1, "Accressories Database", "", Show<catalogues::FrmItemsDatabase>},
       {kEntry, "MunData", "munInvoicing",       -1, "&Invoicing", "", kNotBuilt},
       {kEntry, "MunData", "MunCashBook",        -1, "&Cash Book", "", kNotBuilt},
       {kEntry, "MunData", "munCCD",             -1, "Clear Curtain Da&ta", "", ClearData},

@@ -95,6 +95,7 @@ const std::array kForms = {
     Row<tools::FrmListAdmin, BuildListAdminForm>("option-lists", kPlaced),
     Row<tools::FrmEnterSalesPerson, BuildEnterSalesPersonForm>("sales-person", kCentred),
     Row<catalogues::FrmFabricDatabase2, BuildProductsForm>("products", kPlaced),
+    Row<catalogues::FrmItemsDatabase, BuildAccessoriesForm>("accessories", kPlaced),
     Row<catalogues::frmSuppliers2, BuildSuppliersForm>("suppliers", kPlaced),
     Row<FrmPreferences, BuildPreferencesForm>("preferences", kCentred, ShowPreferences),
     Row<MainCWizard, BuildWizardForm>("wizard", kPlaced, ShowItem),

@@ -23,15 +23,15 @@ constexpr std::array<std::pair<const char*, ColourScheme>, 3> kSchemes = {{
 
 struct Colours {
   QRgb window, text, base, alternate, button, quiet, disabled, rule, frame, strip, accent, on_accent, link,
-      idle, wrong;
+      idle, wrong, care;
 };
 //                             window      text        base        alternate   button      quiet
-constexpr Colours kLight = {0xfff4f5f7, 0xff1c2126, 0xffffffff, 0xfff5f8fb, 0xffeceff2,
-                            0xff56606b, 0xff626a73, 0xffd3d8de, 0xff9aa4af, 0xffe6ecf2,
-                            0xff1f5f99, 0xffffffff, 0xff1f5f99, 0xffbfcddb, 0xffb3261e};
-constexpr Colours kDark = {0xff23272c, 0xffe6e9ec, 0xff1a1d21, 0xff20242a, 0xff343a41,
-                           0xffa5afb9, 0xff9ba4ad, 0xff3d444c, 0xff5f6a75, 0xff2c333b,
-                           0xff5aa5e6, 0xff10161c, 0xff7dbcf2, 0xff435261, 0xffff8a80};
+constexpr Colours kLight = {0xfff4f5f7, 0xff1c2126, 0xffffffff, 0xfff5f8fb, 0xffeceff2, 0xff56606b,
+                            0xff626a73, 0xffd3d8de, 0xff9aa4af, 0xffe6ecf2, 0xff1f5f99, 0xffffffff,
+                            0xff1f5f99, 0xffbfcddb, 0xffb3261e, 0xff8a5a00};
+constexpr Colours kDark = {0xff23272c, 0xffe6e9ec, 0xff1a1d21, 0xff20242a, 0xff343a41, 0xffa5afb9,
+                           0xff9ba4ad, 0xff3d444c, 0xff5f6a75, 0xff2c333b, 0xff5aa5e6, 0xff10161c,
+                           0xff7dbcf2, 0xff435261, 0xffff8a80, 0xfff0b84d};
 
 constexpr char kSystemIsDark[] = "system_is_dark";
 constexpr char kScheme[] = "scheme";
@@ -49,6 +49,7 @@ QPalette PaletteOf(const Colours& colours) {
   palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor(colours.idle));
   palette.setColor(QPalette::Inactive, QPalette::HighlightedText, QColor(colours.text));
   palette.setColor(QPalette::BrightText, QColor(colours.wrong));
+  palette.setColor(QPalette::LinkVisited, QColor(colours.care));
   palette.setColor(QPalette::PlaceholderText, QColor(colours.quiet));
   palette.setColor(QPalette::Link, QColor(colours.link));
   for (const auto role :

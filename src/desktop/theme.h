@@ -35,7 +35,7 @@ int Quarters(int count);
 int Digits(int count);
 
 // Colours without a role of their own in the palette. Quiet texts (captions, units, hints) are its
-// PlaceholderText, what stands out its Highlight.
+// PlaceholderText, what stands out its Highlight; what asks for care is written in its LinkVisited.
 QColor RuleColour();   // thin lines between groups
 QColor WrongColour();  // the edge of a field whose text can't be taken
 QColor StripColour();  // behind the totals

@@ -1,6 +1,7 @@
 #include "store/connection.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -212,6 +213,14 @@ bool Connection::WasUndone(std::int64_t transaction) const {
 void Connection::StopWriting(std::string cause) {
   write_stop_ = std::move(cause);
   sqlite3_exec(handle_.get(), "PRAGMA query_only=ON", nullptr, nullptr, nullptr);
+}
+
+bool Connection::CanBeWritten() const {
+  if (!write_stop_.empty() || sqlite3_db_readonly(handle_.get(), "main") != 0) return false;
+  // A change needs its journal beside the file.
+  const std::string journal = file_.string() + "-journal";
+  const std::filesystem::path folder = file_.has_parent_path() ? file_.parent_path() : ".";
+  return ::access(journal.c_str(), W_OK) == 0 || ::access(folder.c_str(), W_OK) == 0;
 }
 
 void Connection::NoteDamage() {

@@ -97,6 +97,8 @@ class Connection {
   void NoteDamage();
   // From now on every change faults with this cause.
   void StopWriting(std::string cause);
+  // False where no change can succeed, as far as that shows without one.
+  bool CanBeWritten() const;
   void AllowWriting();
 
  private:

@@ -39,6 +39,7 @@ const std::filesystem::path& Database::file() const { return state_->connection.
 
 const std::string& Database::notice() const { return state_->notice; }
 bool Database::damaged() const { return state_->connection.damaged(); }
+bool Database::CanBeWritten() const { return state_->connection.CanBeWritten(); }
 void Database::AllowWriting() { state_->connection.AllowWriting(); }
 
 void Database::Execute(std::string_view sql) { state_->connection.Execute(std::string(sql)); }

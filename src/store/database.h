@@ -35,6 +35,10 @@ class Database {
   bool damaged() const;
   void AllowWriting();
 
+  // False where every change would fault, as far as that can be told beforehand: file or folder may only be
+  // read, or damage was seen.
+  bool CanBeWritten() const;
+
   // Statements of the project itself (table definitions); never text that came from a user.
   void Execute(std::string_view sql);
   bool HasTable(std::string_view table) const;

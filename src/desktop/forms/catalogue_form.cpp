@@ -29,6 +29,14 @@ void AddKeys(Form& form, Catalogue& screen) {
 
 }  // namespace
 
+Pieces QuickListPieces(Builder& build, catalogues::QuickList& quick) {
+  const Piece button = build.Flow({build.Press(quick.Command1)});
+  const Piece list = build.List(quick.lstTitles);
+  build.Name(quick.lstTitles, "Quick list");
+  build.form().AddSizer([widget = list.widget] { widget->setFixedHeight(Quarters(24)); });
+  return {button, {list.widget}};
+}
+
 void FillCatalogue(Form& form, Catalogue& screen, const CataloguePieces& pieces) {
   Builder build(form);
   const Piece find = build.Find(screen.Search);

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "catalogues/catalogue.h"
+#include "catalogues/quick_list.h"
 #include "desktop/builders.h"
 
 namespace tarvane::desktop {
@@ -23,5 +24,9 @@ struct CataloguePieces {
 // Search on top, the list at the left, the record at the right (below in a narrow window), the buttons below.
 // Ctrl+N adds, Ctrl+S saves, Ctrl+F leads to the search.
 void FillCatalogue(Form& form, catalogues::Catalogue& screen, const CataloguePieces& pieces);
+
+// The quick list under its button, for below_list. It keeps to some lines, so that the list above it stays in
+// view.
+Pieces QuickListPieces(Builder& build, catalogues::QuickList& quick);
 
 }  // namespace tarvane::desktop

@@ -2,6 +2,7 @@
 
 #include "app/main_screen.h"
 #include "app/splash.h"
+#include "catalogues/accessories.h"
 #include "catalogues/products.h"
 #include "catalogues/suppliers.h"
 #include "curtain_wizard/frm_preferences.h"
@@ -21,6 +22,7 @@ void BuildListAdminForm(Form& form, tools::FrmListAdmin& screen);
 void BuildEnterSalesPersonForm(Form& form, tools::FrmEnterSalesPerson& screen);
 void BuildPreferencesForm(Form& form, curtain_wizard::FrmPreferences& screen);
 void BuildProductsForm(Form& form, catalogues::FrmFabricDatabase2& screen);
+void BuildAccessoriesForm(Form& form, catalogues::FrmItemsDatabase& screen);
 void BuildSuppliersForm(Form& form, catalogues::frmSuppliers2& screen);
 void BuildWizardForm(Form& form, curtain_wizard::MainCWizard& wizard);
 
