@@ -96,6 +96,9 @@ class TableGrid : public Grid {
   std::string Cell(std::int64_t row, int column) const override;
   std::int64_t selected_row() const override;
 
+  // Column 0 tells the number of the line in place of the blank row marker.
+  void SetNumbersLines() { numbers_lines_ = true; }
+
   // The row set has other rows now, or another current one: faces draw anew.
   void RowsChanged();
   void CursorMoved();
@@ -108,6 +111,7 @@ class TableGrid : public Grid {
 
   RowSet* rows_ = nullptr;
   std::string first_heading_;
+  bool numbers_lines_ = false;
   std::vector<Column> wanted_;
   mutable std::vector<Column> columns_;
   mutable std::vector<int> indexes_;

@@ -4,6 +4,10 @@
 #include "app/splash.h"
 #include "catalogues/suppliers.h"
 #include "curtain_wizard/frm_preferences.h"
+#include "curtain_wizard/pleats.h"
+#include "curtain_wizard/pricing.h"
+#include "curtain_wizard/pricing_entry.h"
+#include "curtain_wizard/single_item.h"
 #include "curtain_wizard/wizard.h"
 #include "desktop/form.h"
 #include "tools/enter_sales_person.h"
@@ -21,5 +25,9 @@ void BuildEnterSalesPersonForm(Form& form, tools::FrmEnterSalesPerson& screen);
 void BuildPreferencesForm(Form& form, curtain_wizard::FrmPreferences& screen);
 void BuildSuppliersForm(Form& form, catalogues::frmSuppliers2& screen);
 void BuildWizardForm(Form& form, curtain_wizard::MainCWizard& wizard);
+void BuildPricingForm(Form& form, curtain_wizard::FrmPopUp1& screen);
+void BuildPricingEntryForm(Form& form, curtain_wizard::FrmPopUp1Options& screen);
+void BuildPleatsForm(Form& form, curtain_wizard::FrmPleats& screen);
+void BuildSingleItemForm(Form& form, curtain_wizard::FrmSimgleItem& screen);
 
 }  // namespace tarvane::desktop
