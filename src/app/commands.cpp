@@ -7,6 +7,7 @@
 #include "catalogues/accessories.h"
 #include "catalogues/products.h"
 #include "catalogues/suppliers.h"
+#include "curtain_wizard/pricing.h"
 #include "tools/list_admin.h"
 #include "tools/options.h"
 
@@ -72,7 +73,7 @@ const std::vector<Command>& Commands() {
       {kEntry, "MunData", "MunFabricDatabase",  -1, "Products Database", "", Show<catalogues::FrmFabricDatabase2>},
       {kEntry, "MunData", "MunSuppliersData",   -1, "Suppliers Database", "", Show<catalogues::frmSuppliers2>},
       {kEntry, "MunData", "munTem",             -1, "Wizard Templates Database", "", kNotBuilt},
-      {kEntry, "MunData", "MunFrmPopUp1",       -1, "Pricing Database for Curtain Wizard", "", kNotBuilt},
+      {kEntry, "MunData", "MunFrmPopUp1",       -1, "Pricing Database for Curtain Wizard", "", Show<curtain_wizard::FrmPopUp1>},
       {kEntry, "MunData", "MunAccressDatabase", -1, "Accressories Database", "", Show<catalogues::FrmItemsDatabase>},
       {kEntry, "MunData", "munInvoicing",       -1, "&Invoicing", "", kNotBuilt},
       {kEntry, "MunData", "MunCashBook",        -1, "&Cash Book", "", kNotBuilt},
@@ -117,7 +118,7 @@ const std::vector<Command>& Commands() {
       {kTool,  "", "Cdatabase",       -1, "", "Customers Database", kNotBuilt},
       {kTool,  "", "products",        -1, "", "Products Database", Show<catalogues::FrmFabricDatabase2>},
       {kTool,  "", "Sdatabase",       -1, "", "Suppliers Database", Show<catalogues::frmSuppliers2>},
-      {kTool,  "", "PricingDatabase", -1, "", "Pricing Database", kNotBuilt},
+      {kTool,  "", "PricingDatabase", -1, "", "Pricing Database", Show<curtain_wizard::FrmPopUp1>},
 
       {kButton, "", "CmdSize",              -1, "&Close Record", "", Run<&Main::CloseRecord>},
       {kButton, "", "MakePayment",          -1, "Make a Payment", "", kNotBuilt},
@@ -126,7 +127,7 @@ const std::vector<Command>& Commands() {
       {kButton, "", "CmdPrintStatement",    -1, "Quick Print Statement", "", kNotBuilt},
       {kButton, "", "CmdPrint",             -1, "Print This Record", "", kNotBuilt},
       {kButton, "", "Command11",            -1, "QUICK SHOP SALES (POS)", "", kNotBuilt},
-      {kButton, "", "Command10",            -1, "Pricing Database", "", kNotBuilt},
+      {kButton, "", "Command10",            -1, "Pricing Database", "", Show<curtain_wizard::FrmPopUp1>},
       {kButton, "", "CmdCustomersDatabase", -1, "&Customer Database F3", "", kNotBuilt},
       {kButton, "", "Command4",             -1, "&Your Product Database F4", "", Show<catalogues::FrmFabricDatabase2>},
       {kButton, "", "CmdSuppliers",         -1, "Your &Suppliers Database", "", Show<catalogues::frmSuppliers2>},

@@ -1,10 +1,20 @@
 // How the item wizards are opened, and what follows them.
 #include "app/main_screen.h"
 #include "app/show.h"
+#include "curtain_wizard/single_item.h"
 #include "curtain_wizard/wizard.h"
 #include "text/trim.h"
 
 namespace tarvane::app {
+
+void MainScreen::SetItemRules() {
+  for (HeldGrid& grid : RoomItemGrid) {
+    grid.OnRowOpened([this] { EditItem(); });
+  }
+  CmdRooms[0].OnClicked([this] { AddSingleItem(); });
+  CmdRooms[1].OnClicked([this] { UpdateSingleItem(); });
+  SingleItemGrid.OnRowOpened([this] { UpdateSingleItem(); });
+}
 
 void MainScreen::AddCurtain() {
   NeedRecord();
@@ -48,6 +58,25 @@ void MainScreen::ShowQuickWizard() {
   wizard.CmdFinishTwo.SetVisible(false);
   wizard.TxtViewOnly.SetText("2");
   ShowModal(wizard);
+}
+
+void MainScreen::AddSingleItem() {
+  NeedRecord();
+  auto item = MakeScreen<curtain_wizard::FrmSimgleItem>(*this);
+  ShowModal(item);
+  RunEach({[this] { LoadSingles(); }, [this] { cal(); }});
+  // It is committed with its job.
+  if (item.item_saved()) SaveRecord();
+}
+
+void MainScreen::UpdateSingleItem() {
+  if (SingleItemGrid.RowCount() == 0) return;
+  auto item = MakeScreen<curtain_wizard::FrmSimgleItem>(*this);
+  item.Change(SingleItemGrid.selected_row());
+  ShowModal(item);
+  RewriteSinglesText();
+  RunEach({[this] { LoadSingles(); }, [this] { cal(); }});
+  if (item.item_saved()) SaveRecord();
 }
 
 void MainScreen::NeedRecord() const {

@@ -35,6 +35,7 @@ MainScreen::MainScreen(Host& host, Shop& shop)
                  .must_choose = true}) {
   MakeCommands();
   SetFinderRules();
+  SetItemRules();
   tbToolBar.SetVisible(false);
   CommandButton("CmdSize").SetVisible(false);
   tbToolBarclose();
@@ -74,9 +75,6 @@ void MainScreen::SetFinderRules() {
     Repositioned();
   });
   JobFinder.OnReset([this] { JobsAreBack(); });
-  for (HeldGrid& grid : RoomItemGrid) {
-    grid.OnRowOpened([this] { EditItem(); });
-  }
 }
 
 void MainScreen::Load() {

@@ -52,6 +52,8 @@ class MainScreen : public job::JobScreen {
   void EditItem();
   void RefreshAfterItem();  // what follows each of the item wizards
   void ShowQuickWizard();
+  void AddSingleItem();
+  void UpdateSingleItem();  // the one that is selected; nothing where there is none
 
  protected:
   void Load() override;
@@ -60,6 +62,7 @@ class MainScreen : public job::JobScreen {
 
  private:
   void MakeCommands();
+  void SetItemRules();
   void SetFinderRules();
   void tbToolBarOpen();
   void tbToolBarclose();

@@ -55,11 +55,11 @@ class Catalogue : public Screen {
   Button CmdExcel{this, "CmdExcel", "Copy Contents to &Excel"};
   Button CmdCancel{this, "CmdCancel", "&Close"};
 
-  // A new row, at the end. Faults where what waits can't be committed.
-  void Add();
-  void Save();
+  // What the three buttons do. A new row, at the end; faults where what waits can't be committed.
+  virtual void Add();
+  virtual void Save();
   // After a question. Nothing without a row.
-  void Delete();
+  virtual void Delete();
   // Commits what waits and makes the row of that key current. A row that isn't among those that were searched
   // leaves the screen where it is.
   void GoToKey(std::string_view key);

@@ -8,7 +8,8 @@ namespace tarvane::curtain_wizard {
 void MainCWizard::NameControls() {
   for (Control* control : std::initializer_list<Control*>{
            &RoomIndex, &Txtinfo, &TxtRow, &TxtViewOnly, &TxtAdminVat, &PrintMode, &TotalInches, &TxtMTrack,
-           &TxtAutoTrack, &TxtPriceTarget2, &ItemTextPriced, &ItemTextPlain, &ItemTextRoom}) {
+           &TxtAutoTrack, &TxtPriceTarget2, &ItemTextPriced, &ItemTextPlain, &ItemTextRoom, &PickedFabric,
+           &PickedPrice}) {
     control->SetNeverShown();
   }
   for (const auto& [control, alias] :

@@ -42,11 +42,6 @@ void FillIfEmpty(TextField& field, std::string_view text) {
   if (field.empty()) field.SetText(text);
 }
 
-// A text that is no number leaves the mirror as it was.
-void MirrorToCm(const TextField& inches, TextField& centimetres) {
-  IgnoreFaults([&] { centimetres.SetText(InchesToCm(inches.text())); });
-}
-
 void MirrorToInches(const TextField& centimetres, TextField& inches, Mask mask) {
   IgnoreFaults([&] {
     inches.SetText(CmToInches(centimetres.text()));
@@ -55,6 +50,10 @@ void MirrorToInches(const TextField& centimetres, TextField& inches, Mask mask) 
 }
 
 }  // namespace
+
+void MirrorToCm(const TextField& inches, TextField& centimetres) {
+  IgnoreFaults([&] { centimetres.SetText(InchesToCm(inches.text())); });
+}
 
 void MainCWizard::HookMeasurements() {
   // The defaults for empty boxes come before the conversions that read them.

@@ -24,6 +24,9 @@ std::string RoundUpMetres(std::string_view text);
 std::string InchesToCm(std::string_view inches);
 std::string CmToInches(std::string_view centimetres);
 
+// The box in inches into its mirror; a text that is no number leaves the mirror as it was.
+void MirrorToCm(const TextField& inches, TextField& centimetres);
+
 // The double that is left of `value` after it was held as text.
 double ThroughText(double value);
 

@@ -52,6 +52,7 @@ MainCWizard::MainCWizard(Host& host, Shop& shop, job::JobScreen& job)
   HookTrims();
   HookLabour();
   HookSaving();
+  HookPickers();
   HookLists();
 }
 
@@ -96,6 +97,7 @@ void MainCWizard::Load() {
 // neither read again nor numbered anew.
 void MainCWizard::Activate() {
   if (is_shown()) {
+    if (picking_fabric_) TakeFabric();
     RunClickActions();
     return;
   }

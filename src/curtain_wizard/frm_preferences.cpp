@@ -31,9 +31,7 @@ void TakeOptions(MainCWizard& wizard, const std::vector<std::string>& lines, Opt
   const std::size_t end = purpose == OptionsFor::kNewItem ? kTaxLine : fields.size();
   for (std::size_t i = 1; i < std::min(lines.size(), end); ++i) fields[i]->SetText(lines[i]);
   // The start values of the two hem boxes disagree, also where the hem stays as it is.
-  if (!lines.empty()) {
-    IgnoreFaults([&wizard] { wizard.HemAllowanceCm.SetText(InchesToCm(wizard.HemAllowanceIns.text())); });
-  }
+  if (!lines.empty()) MirrorToCm(wizard.HemAllowanceIns, wizard.HemAllowanceCm);
 }
 
 FrmPreferences::FrmPreferences(Host& host, Shop& shop, MainCWizard& wizard)

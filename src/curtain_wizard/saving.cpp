@@ -1,3 +1,4 @@
+#include "curtain_wizard/item_line.h"
 #include "curtain_wizard/item_record.h"
 #include "curtain_wizard/wizard.h"
 #include "job/job_screen.h"
@@ -6,15 +7,6 @@ namespace tarvane::curtain_wizard {
 namespace {
 
 const std::string kRule(58, '-');
-
-// The room's place among the job's; a text that is no room of the job faults.
-std::size_t RoomOf(const TextField& room_index) {
-  const double index = room_index.Number();
-  if (!(index >= 0 && index < static_cast<double>(job::kRoomCount))) {
-    throw Fault("There is no room for this item: room index \"" + room_index.text() + "\".");
-  }
-  return static_cast<std::size_t>(index);
-}
 
 // A new item is summed up on the tab that is in view, whichever room it belongs to.
 TextField& ShownSummary(job::JobScreen& job) {
@@ -43,19 +35,29 @@ std::string LongDescription(const MainCWizard& w) {
          Tags(w);
 }
 
-// What follows the line number in the room's grid.
-HeldGrid::Row ItemLine(MainCWizard& w, std::string description) {
-  return {w.GrandTotal.text(), std::move(description), ItemRecord(w),
-          "CurtainWizard",     w.ItemNumber.text(),    w.ItemTextRoom.text()};
-}
-
 // Letters in the paid amount stop the totals; they are told when the job is refreshed.
 void WorkOutJob(job::JobScreen& job) {
   IgnoreFaults([&job] { job.LoadRoom(); });
   IgnoreFaults([&job] { job.cal(); });
 }
 
+// What follows the line number in the room's grid.
+HeldGrid::Row ItemLine(MainCWizard& w, std::string description) {
+  return {w.GrandTotal.text(), std::move(description), ItemRecord(w),
+          "CurtainWizard",     w.ItemNumber.text(),    w.ItemTextRoom.text()};
+}
+
 }  // namespace
+
+std::size_t RoomOf(const TextField& room_index) {
+  const double index = room_index.Number();
+  if (!(index >= 0 && index < static_cast<double>(job::kRoomCount))) {
+    throw Fault("There is no room for this item: room index \"" + room_index.text() + "\".");
+  }
+  return static_cast<std::size_t>(index);
+}
+
+HeldGrid::Row UpdatedItemLine(MainCWizard& w) { return ItemLine(w, LongDescription(w)); }
 
 void MainCWizard::HookSaving() {
   CmdFinishTwo.OnClicked([this] { FinishNew(); });
@@ -83,7 +85,7 @@ void MainCWizard::Update() {
     if (!(row >= 1 && row <= static_cast<double>(grid.RowCount()))) {
       throw Fault("The item's row " + TxtRow.text() + " is not in the room any more.");
     }
-    const HeldGrid::Row line = ItemLine(*this, LongDescription(*this));
+    const HeldGrid::Row line = UpdatedItemLine(*this);
     for (std::size_t i = 0; i < line.size(); ++i) {
       grid.SetText(static_cast<std::int64_t>(row), static_cast<int>(i) + 1, line[i]);
     }

@@ -35,6 +35,7 @@ class MainCWizard : public Screen {
  public:
   static constexpr std::string_view kName = "MainCWizard";
   static constexpr int kSteps = 7;
+  static constexpr std::string_view kNoFabric = "Enter Fabric Name Here";
 
   // `job` is the main screen; it must outlive the wizard.
   MainCWizard(Host& host, Shop& shop, job::JobScreen& job);
@@ -43,6 +44,8 @@ class MainCWizard : public Screen {
   int step() const { return step_; }
   // The item was put into the job, and the job committed.
   bool item_saved() const { return item_saved_; }
+  // The products were closed with a fabric picked, the last time that they were shown.
+  bool fabric_picked() const { return fabric_picked_; }
 
   // Runs what belongs to the arrival at the present step.
   void SetStep();
@@ -86,8 +89,8 @@ class MainCWizard : public Screen {
   Button CmdWizard{this, "CmdWizard", "&Wizard"};
   Button CmdListOptions{this, "CmdListOptions", "List &Options"};
   Button CmdCurOptions{this, "CmdCurOptions", "&Set Preferences"};
-  Button CmdSelect{this, "CmdSelect", "Select from Database", kNotBuilt};
-  Button CmdGobletWizard{this, "CmdGobletWizard", "Goblet Wizard", kNotBuilt};
+  Button CmdSelect{this, "CmdSelect", "Select from Database"};
+  Button CmdGobletWizard{this, "CmdGobletWizard", "Goblet Wizard"};
   Button CmdConverter{this, "CmdConverter", "Converter", kNotBuilt};
   Button CmdCalculator{this, "CmdCalculator", "Calcu&lator"};
   Button CmdHelpTip{this, "CmdHelpTip", "Help Tip"};
@@ -112,6 +115,10 @@ class MainCWizard : public Screen {
   TextField ItemTextPriced{this, "ItemTextPriced", "", -1, TextField::Kind::kMemo};
   TextField ItemTextPlain{this, "ItemTextPlain", "", -1, TextField::Kind::kMemo};
   TextField ItemTextRoom{this, "ItemTextRoom", "", -1, TextField::Kind::kMemo};  // lines ended by "~"
+
+  // The fabric that was picked last, and its price; "" before the first one.
+  TextField PickedFabric{this, "PickedFabric"};
+  TextField PickedPrice{this, "PickedPrice"};
 
   // ---- Step 1, measurements ----
   DropDownList CboCurtainStyle{&StepPanel[0], "CboCurtainStyle"};
@@ -146,8 +153,8 @@ class MainCWizard : public Screen {
   TickBox AutoRoundup{&StepPanel[0], "AutoRoundup", "Auto Round Up"};
 
   // ---- Step 2, fabric ----
-  Button CmdGetFabricFromDatabase{&StepPanel[1], "CmdGetFabricFromDatabase", "Get Fabric", kNotBuilt};
-  TextField FabricName{&StepPanel[1], "FabricName", "Enter Fabric Name Here"};
+  Button CmdGetFabricFromDatabase{&StepPanel[1], "CmdGetFabricFromDatabase", "Get Fabric"};
+  TextField FabricName{&StepPanel[1], "FabricName", kNoFabric};
   TextField FabricMetres{&StepPanel[1], "FabricMetres"};
   DropDownList FabricPrice{&StepPanel[1], "FabricPrice", "0.00"};
   TickBox FabricPriceExVat{&StepPanel[1], "FabricPriceExVat", "Price ex VAT"};
@@ -287,6 +294,13 @@ class MainCWizard : public Screen {
   void RoundUpTrimMetres();
   void PriceTrim();
 
+  // What other screens hand over.
+  void HookPickers();
+  void SelectTemplate();
+  void GetFabric();
+  void TakeFabric();
+  void SpacePleats();
+
   // Labour and totals.
   void HookLabour();
   void CostLabour();
@@ -313,6 +327,8 @@ class MainCWizard : public Screen {
   job::JobScreen* job_;
   int step_ = 0;
   bool item_saved_ = false;
+  bool picking_fabric_ = false;  // the products are on top
+  bool fabric_picked_ = false;
   const TextField* typed_box_ = nullptr;  // the measure that was typed into and isn't converted yet
   std::string entered_rate_;              // the tax rate as the worker came to it
   std::string saved_link_;                // as it was last opened, saved or started

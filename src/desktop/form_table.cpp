@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <type_traits>
 
 #include "app/show.h"
 #include "desktop/forms/forms.h"
@@ -10,7 +11,11 @@ namespace tarvane::desktop {
 namespace {
 
 using app::MainScreen;
+using curtain_wizard::FrmPleats;
+using curtain_wizard::FrmPopUp1;
+using curtain_wizard::FrmPopUp1Options;
 using curtain_wizard::FrmPreferences;
+using curtain_wizard::FrmSimgleItem;
 using curtain_wizard::MainCWizard;
 
 constexpr bool kPlaced = true;
@@ -21,10 +26,17 @@ void Show(MainScreen& main) {
   app::ShowScreen<Shown>(main);
 }
 
-void ShowPreferences(MainScreen& main) {
+// As the wizard opens it.
+template <typename Shown>
+void ShowOverWizard(MainScreen& main) {
   auto wizard = app::MakeScreen<MainCWizard>(main);
-  FrmPreferences preferences(main.host(), main.shop(), wizard);
-  main.ShowModal(preferences);
+  if constexpr (std::is_constructible_v<Shown, Host&, Shop&, MainCWizard&>) {
+    Shown shown(main.host(), main.shop(), wizard);
+    main.ShowModal(shown);
+  } else {
+    Shown shown(main.host(), wizard);
+    main.ShowModal(shown);
+  }
 }
 
 // The first curtain of the first room.
@@ -52,6 +64,12 @@ std::string Unsaved(tools::frmOptions& options) {
   return Waits(options.Data1) ? "the preferences of the shop" : "";
 }
 void Save(tools::frmOptions& options) { options.cmdOK.Press(); }
+
+std::string Unsaved(FrmPopUp1Options& entry) {
+  if (!entry.changed()) return {};
+  return "the price of " + (entry.Description.empty() ? "a style without a name" : entry.Description.text());
+}
+void Save(FrmPopUp1Options& entry) { entry.Save(); }
 
 template <typename Shown>
 constexpr bool kKeepsRows = requires(Shown& screen) {
@@ -97,8 +115,12 @@ const std::array kForms = {
     Row<catalogues::FrmFabricDatabase2, BuildProductsForm>("products", kPlaced),
     Row<catalogues::FrmItemsDatabase, BuildAccessoriesForm>("accessories", kPlaced),
     Row<catalogues::frmSuppliers2, BuildSuppliersForm>("suppliers", kPlaced),
-    Row<FrmPreferences, BuildPreferencesForm>("preferences", kCentred, ShowPreferences),
+    Row<FrmPreferences, BuildPreferencesForm>("preferences", kCentred, ShowOverWizard<FrmPreferences>),
     Row<MainCWizard, BuildWizardForm>("wizard", kPlaced, ShowItem),
+    Row<FrmPopUp1, BuildPricingForm>("pricing", kPlaced, ShowOverWizard<FrmPopUp1>),
+    Row<FrmPopUp1Options, BuildPricingEntryForm>("pricing-entry", kCentred),
+    Row<FrmPleats, BuildPleatsForm>("pleats", kCentred, ShowOverWizard<FrmPleats>),
+    Row<FrmSimgleItem, BuildSingleItemForm>("single-item", kCentred),
 };
 
 }  // namespace

@@ -61,8 +61,8 @@ void JobScreen::BindSettings() {
 }
 
 void JobScreen::MarkHidden() {
-  for (TextField* field :
-       {&TxtRoomNum, &TxtLastOrderNo, &TxtCurrencySymbol, &TxtP1, &TxtP2, &TxtTrack, &SingleItems}) {
+  for (TextField* field : {&TxtRoomNum, &TxtLastOrderNo, &TxtCurrencySymbol, &TxtP1, &TxtP2, &TxtTrack,
+                           &TxtList2, &SingleItems}) {
     field->SetNeverShown();
   }
   for (TextField& items : RoomItems) items.SetNeverShown();

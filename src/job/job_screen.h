@@ -84,6 +84,8 @@ class JobScreen : public Screen {
   std::array<Button, kRoomCount> CmdClearRoom = MakeFamily<kRoomCount>([this](int i) {
     return Button(this, "CmdClearRoom", "Clear and Complie " + std::to_string(i + 1), i);
   });
+  // The line that was put into a room from outside its editor, with tabs between its cells.
+  TextField TxtList2{this, "TxtList2", "", -1, TextField::Kind::kMemo};
   Button CmdDeleteFromRoom{this, "CmdDeleteFromRoom", "De&lete From Room"};
   TextField Text1{this, "Text1", "", -1, TextField::Kind::kMemo};  // the selected item's lines
 
@@ -93,8 +95,7 @@ class JobScreen : public Screen {
   std::array<Button, 3> CmdRooms = MakeFamily<3>([this](int i) {
     static constexpr std::array<std::string_view, 3> kCaptions = {"&Add Item", "&Update Item",
                                                                   "&Delete Item"};
-    const std::string_view caption = kCaptions[static_cast<std::size_t>(i)];
-    return i == 2 ? Button(this, "CmdRooms", caption, i) : Button(this, "CmdRooms", caption, kNotBuilt, i);
+    return Button(this, "CmdRooms", kCaptions[static_cast<std::size_t>(i)], i);
   });
 
   // ---- Pages, the summary panel, captions.

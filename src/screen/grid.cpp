@@ -113,6 +113,7 @@ int TableGrid::ColumnCount() const {
 }
 
 std::string TableGrid::Cell(std::int64_t row, int column) const {
+  if (column == 0 && numbers_lines_ && row >= 1 && row <= RowCount()) return std::to_string(row);
   FindColumns();
   if (column < 1 || column > static_cast<int>(columns_.size()) || row < 0) return "";
   const auto at = static_cast<std::size_t>(column - 1);

@@ -101,6 +101,9 @@ class TableGrid : public Grid {
   std::int64_t selected_row() const override;
   void ReadCells(std::int64_t row, std::span<const int> columns, std::span<std::string> cells) const override;
 
+  // Column 0 tells the number of the line in place of the blank row marker.
+  void SetNumbersLines() { numbers_lines_ = true; }
+
   // The row set has other rows now, or another current one: faces draw anew.
   void RowsChanged();
   void CursorMoved();
@@ -113,6 +116,7 @@ class TableGrid : public Grid {
 
   RowSet* rows_ = nullptr;
   std::string first_heading_;
+  bool numbers_lines_ = false;
   std::vector<Column> wanted_;
   mutable std::vector<Column> columns_;
   mutable std::vector<int> indexes_;

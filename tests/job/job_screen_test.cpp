@@ -312,10 +312,10 @@ TEST_F(JobScreenTest, DeletesAnItemAfterTheQuestion) {
 
 TEST_F(JobScreenTest, DeletesASingleItem) {
   JobScreen& job = Open({{{"Memo21", "1|a|2.00|2.00|\r\n1|b|3.00|3.00|\r\n"}}});
-  EXPECT_FALSE(job.CmdRooms[2].enabled());
+  const auto enabled = [&job] { return std::array{job.CmdRooms[1].enabled(), job.CmdRooms[2].enabled()}; };
+  EXPECT_EQ(enabled(), (std::array{false, false}));
   job.SingleItemGrid.UserSelectRow(1);
-  EXPECT_TRUE(job.CmdRooms[2].enabled());
-  EXPECT_FALSE(job.CmdRooms[0].enabled());
+  EXPECT_EQ(enabled(), (std::array{true, true}));
   host_.answers = {Answer::kYes};
   job.CmdRooms[2].UserPress();
   EXPECT_EQ(job.SingleItems.text(), "1|b|3.00|3.00|\r\n");

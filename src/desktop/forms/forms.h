@@ -6,6 +6,10 @@
 #include "catalogues/products.h"
 #include "catalogues/suppliers.h"
 #include "curtain_wizard/frm_preferences.h"
+#include "curtain_wizard/pleats.h"
+#include "curtain_wizard/pricing.h"
+#include "curtain_wizard/pricing_entry.h"
+#include "curtain_wizard/single_item.h"
 #include "curtain_wizard/wizard.h"
 #include "desktop/form.h"
 #include "tools/enter_sales_person.h"
@@ -25,5 +29,9 @@ void BuildProductsForm(Form& form, catalogues::FrmFabricDatabase2& screen);
 void BuildAccessoriesForm(Form& form, catalogues::FrmItemsDatabase& screen);
 void BuildSuppliersForm(Form& form, catalogues::frmSuppliers2& screen);
 void BuildWizardForm(Form& form, curtain_wizard::MainCWizard& wizard);
+void BuildPricingForm(Form& form, curtain_wizard::FrmPopUp1& screen);
+void BuildPricingEntryForm(Form& form, curtain_wizard::FrmPopUp1Options& screen);
+void BuildPleatsForm(Form& form, curtain_wizard::FrmPleats& screen);
+void BuildSingleItemForm(Form& form, curtain_wizard::FrmSimgleItem& screen);
 
 }  // namespace tarvane::desktop

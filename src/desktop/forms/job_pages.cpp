@@ -92,7 +92,9 @@ Piece SinglesPage(Builder& build, app::MainScreen& screen) {
   buttons.push_back(Builder::Spring());
   buttons.push_back(build.Fields(
       {{"Single Items Total:", {{screen.TxtSubTotal, {.width = 10, .number = true, .strong = true}}}}}));
-  SayWhyOff(build.form(), screen.CmdRooms[2], "Select an item in the list first.");
+  for (const std::size_t needs_item : {1, 2}) {
+    SayWhyOff(build.form(), screen.CmdRooms[needs_item], "Select an item in the list first.");
+  }
   const Piece table = build.Table(screen.SingleItemGrid, columns);
   build.form().AddSizer([widget = table.widget] { widget->setMinimumWidth(Digits(50)); });
   const Piece singles = build.Group("Single items", {build.Flow(buttons), table});

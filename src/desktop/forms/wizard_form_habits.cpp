@@ -22,7 +22,10 @@ struct OwnKey {
   const char* key;
 };
 
-constexpr std::array<OwnKey, 2> kOwnKeys = {{
+constexpr std::array<OwnKey, 5> kOwnKeys = {{
+    {&MainCWizard::CmdSelect, "Alt+D"},
+    {&MainCWizard::CmdGobletWizard, "Alt+W"},
+    {&MainCWizard::CmdGetFabricFromDatabase, "Alt+F"},
     {&MainCWizard::CmdGetInfo, "Alt+G"},
     {&MainCWizard::CmdFinishTwo, "Alt+A"},
 }};
@@ -108,40 +111,89 @@ bool WouldBeDivided(const TextField& price) {
   return divided;
 }
 
+// What the worker leads to from here; with the fabric comes its own price.
+struct WayOut {
+  Button MainCWizard::*button;
+  const char* where;
+  bool brings_fabric = false;
+};
+
+constexpr std::array<WayOut, 4> kWaysOut = {{
+    {&MainCWizard::CmdCurOptions, "preferences"},
+    {&MainCWizard::CmdSelect, "price list"},
+    {&MainCWizard::CmdGobletWizard, "pleats"},
+    {&MainCWizard::CmdGetFabricFromDatabase, "products", true},
+}};
+
 // The prices that lose the tax once more when the wizard comes back to the front.
-QStringList PricesAtRisk(const MainCWizard& wizard) {
+QStringList PricesAtRisk(const MainCWizard& wizard, bool brings_fabric) {
   QStringList prices;
   if (wizard.cboVAT.Number() <= 0) return prices;
-  if (WouldBeDivided(wizard.FabricPrice)) prices += "the fabric price";
+  if (!brings_fabric && WouldBeDivided(wizard.FabricPrice)) prices += "the fabric price";
   if (wizard.TrimPriceExVat.on() && WouldBeDivided(wizard.TrimPrice)) prices += "the trim price";
   return prices;
 }
 
-bool AgreesToDivide(const QStringList& prices, QWidget* window) {
-  QMessageBox box(QMessageBox::Question, QString::fromStdString(std::string(kProgramTitle)),
-                  "Going to the preferences divides " + prices.join(" and ") +
-                      " by the tax once more when you come back.",
+// Whether the worker presses the first of the two buttons.
+bool Agrees(const QString& text, const char* yes, const char* no, bool yes_is_safe, QWidget* window) {
+  QMessageBox box(QMessageBox::Question, QString::fromStdString(std::string(kProgramTitle)), text,
                   QMessageBox::NoButton, window);
   box.setTextFormat(Qt::PlainText);
-  const QAbstractButton* go_on = box.addButton("&Continue", QMessageBox::AcceptRole);
-  QPushButton* stay = box.addButton("&Stay", QMessageBox::RejectRole);
-  box.setDefaultButton(stay);
+  QPushButton* go_on = box.addButton(yes, QMessageBox::AcceptRole);
+  QPushButton* stay = box.addButton(no, QMessageBox::RejectRole);
+  box.setDefaultButton(yes_is_safe ? go_on : stay);
   box.setEscapeButton(stay);
   box.exec();
   return box.clickedButton() == go_on;
 }
 
-// The window's affair alone: by script the preferences open without a word.
-void AskBeforePreferences(Form& form, MainCWizard& wizard) {
-  auto* button = WidgetOf<QPushButton>(form, wizard.CmdCurOptions);
-  QObject::disconnect(button, &QPushButton::clicked, &form, nullptr);
-  QObject::connect(button, &QPushButton::clicked, &form, [&form, &wizard] {
-    // The rule of the field that was left may have changed its price.
-    form.Flush();
-    const QStringList prices = PricesAtRisk(wizard);
-    if (!prices.isEmpty() && !AgreesToDivide(prices, form.window())) return;
-    form.Act(wizard.CmdCurOptions, [&wizard](Control&) { wizard.CmdCurOptions.UserPress(); });
-  });
+void Press(Form& form, Button& button) {
+  form.Act(button, [&button](Control&) { button.UserPress(); });
+}
+
+// What the button is to do in place of being pressed at once. The window's affair alone: by script it is
+// pressed without a word.
+void OnPressed(Form& form, const Button& button, const std::function<void()>& action) {
+  auto* widget = WidgetOf<QPushButton>(form, button);
+  QObject::disconnect(widget, &QPushButton::clicked, &form, nullptr);
+  QObject::connect(widget, &QPushButton::clicked, &form, action);
+}
+
+void AskBeforeLeaving(Form& form, MainCWizard& wizard, const WayOut& way) {
+  // The rule of the field that was left may have changed its price.
+  form.Flush();
+  const QStringList prices = PricesAtRisk(wizard, way.brings_fabric);
+  const QString text = QString("Going to the %1 divides ").arg(way.where) + prices.join(" and ") +
+                       " by the tax once more when you come back.";
+  if (prices.isEmpty() || Agrees(text, "&Continue", "&Stay", false, form.window())) {
+    Press(form, wizard.*way.button);
+  }
+}
+
+void TypeInto(Form& form, TextField& field, const std::string& text) {
+  form.Act(field, [&field, &text](Control&) { field.UserType(text); });
+}
+
+// The products were closed without a pick, which takes away what was typed here.
+void OfferFormerFabric(Form& form, MainCWizard& wizard, const std::string& name, const std::string& price) {
+  const bool same = wizard.FabricName.text() == name && wizard.FabricPrice.text() == price;
+  const bool nothing = (name.empty() || name == MainCWizard::kNoFabric) && ParseLeading(price) == 0;
+  if (wizard.fabric_picked() || same || nothing) return;
+  const QString text = "No fabric was picked. Put back " + ToQt(name) + " at " + ToQt(price) + "?";
+  if (!Agrees(text, "&Put back", "&Leave", true, form.window())) return;
+  TypeInto(form, wizard.FabricName, name);
+  TypeInto(form, wizard.FabricPrice, price);
+}
+
+void AskOnTheWaysOut(Form& form, MainCWizard& wizard) {
+  for (const WayOut& way : kWaysOut) {
+    OnPressed(form, wizard.*way.button, [&form, &wizard, &way] {
+      const std::string name = wizard.FabricName.text();
+      const std::string price = wizard.FabricPrice.text();
+      AskBeforeLeaving(form, wizard, way);
+      if (way.brings_fabric) OfferFormerFabric(form, wizard, name, price);
+    });
+  }
 }
 
 // A worker who measures in inches wants them for the next item too. An item that is edited has its own unit.
@@ -177,7 +229,7 @@ void AddWizardHabits(Form& form, MainCWizard& wizard) {
   StartAtDescription(form, wizard);
   StartAtFirstField(form, wizard);
   GoOnToSave(form, wizard);
-  AskBeforePreferences(form, wizard);
+  AskOnTheWaysOut(form, wizard);
   KeepUnit(form, wizard);
 }
 
