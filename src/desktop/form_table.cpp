@@ -88,6 +88,7 @@ const std::array kForms = {
     Row<tools::FrmListAdmin, BuildListAdminForm>("option-lists", kPlaced),
     Row<tools::FrmEnterSalesPerson, BuildEnterSalesPersonForm>("sales-person", kCentred),
     Row<catalogues::frmSuppliers2, BuildSuppliersForm>("suppliers", kPlaced),
+    Row<catalogues::FrmPriceList, BuildPriceListForm>("price-list", kPlaced),
     Row<FrmPreferences, BuildPreferencesForm>("preferences", kCentred, ShowPreferences),
     Row<MainCWizard, BuildWizardForm>("wizard", kPlaced, ShowItem),
 };

@@ -35,6 +35,7 @@ struct OwnedHeader {
 const std::vector<OwnedHeader> kOwnedHeaders = {
     {std::regex("Q[A-Z].*|Qt.*/.*"), "desktop"},
     {std::regex("sqlite3.*\\.h"), "store"},
+    {std::regex("expat\\.h|zlib\\.h"), "catalogues"},
 };
 
 struct Include {

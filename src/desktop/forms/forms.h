@@ -2,6 +2,7 @@
 
 #include "app/main_screen.h"
 #include "app/splash.h"
+#include "catalogues/price_list/frm_price_list.h"
 #include "catalogues/suppliers.h"
 #include "curtain_wizard/frm_preferences.h"
 #include "curtain_wizard/wizard.h"
@@ -20,6 +21,7 @@ void BuildListAdminForm(Form& form, tools::FrmListAdmin& screen);
 void BuildEnterSalesPersonForm(Form& form, tools::FrmEnterSalesPerson& screen);
 void BuildPreferencesForm(Form& form, curtain_wizard::FrmPreferences& screen);
 void BuildSuppliersForm(Form& form, catalogues::frmSuppliers2& screen);
+void BuildPriceListForm(Form& form, catalogues::FrmPriceList& screen);
 void BuildWizardForm(Form& form, curtain_wizard::MainCWizard& wizard);
 
 }  // namespace tarvane::desktop
