@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "catalogues/net_price.h"
+#include "catalogues/price_list/frm_price_list.h"
 #include "job/job_screen.h"
 #include "text/fold.h"
 #include "text_number/text_number.h"
@@ -78,6 +79,7 @@ void FrmFabricDatabase2::SetProductRules() {
   TxtMarkUp.OnEntered([this] { host().Hint(kProgramTitle, kMarkUpWarning, ""); });
   CmdGenBarCode.OnClicked([this] { GenerateBarCode(); });
   CmdClearImage.OnClicked([this] { ClearImage(); });
+  CmdPriceList.OnClicked([this] { ReadPriceList(); });
   CmdUseInCW.OnClicked([this] { HandOver(false); });
   CmdSingleItems.OnClicked([this] { HandOver(true); });
 }
@@ -148,6 +150,14 @@ void FrmFabricDatabase2::ClearImage() {
   if (!Data1.HasRow() || !AskYesNo("Clear Image", "Clear Image Are you sure?")) return;
   image.SetText("");
   imagepath.SetText("");
+}
+
+void FrmFabricDatabase2::ReadPriceList() {
+  Data1.Leave();
+  FrmPriceList list(host(), shop());
+  ShowModal(list);
+  // The list may have written to the product that is shown, and beside it.
+  Data1.rows().Resync();
 }
 
 void FrmFabricDatabase2::HandOver(bool without_tax) {

@@ -42,6 +42,9 @@ class FrmFabricDatabase2 : public Catalogue {
   Button CmdGenBarCode{this, "CmdGenBarCode", "&Gen Barcode"};
   TextField Remarks{this, "Remarks", "", -1, TextField::Kind::kMemo};
 
+  // Prices out of a supplier's list.
+  Button CmdPriceList{this, "CmdPriceList", "Read Price &List..."};
+
   // The mark-up of the shop, in percent. It isn't stored here, and no price follows it.
   TextField TxtMarkUp{this, "TxtMarkUp"};
 
@@ -93,6 +96,7 @@ class FrmFabricDatabase2 : public Catalogue {
   void FormatSellingPrice();
   void GenerateBarCode();
   void ClearImage();
+  void ReadPriceList();
   void HandOver(bool without_tax);
 
   job::JobScreen& job_;

@@ -115,6 +115,7 @@ const std::array kForms = {
     Row<catalogues::FrmFabricDatabase2, BuildProductsForm>("products", kPlaced),
     Row<catalogues::FrmItemsDatabase, BuildAccessoriesForm>("accessories", kPlaced),
     Row<catalogues::frmSuppliers2, BuildSuppliersForm>("suppliers", kPlaced),
+    Row<catalogues::FrmPriceList, BuildPriceListForm>("price-list", kPlaced),
     Row<FrmPreferences, BuildPreferencesForm>("preferences", kCentred, ShowOverWizard<FrmPreferences>),
     Row<MainCWizard, BuildWizardForm>("wizard", kPlaced, ShowItem),
     Row<FrmPopUp1, BuildPricingForm>("pricing", kPlaced, ShowOverWizard<FrmPopUp1>),

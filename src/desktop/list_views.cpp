@@ -358,6 +358,7 @@ QTableView* MakeTable(Form& form, Grid& grid, const TableLook& look) {
       if (std::exchange(columns, grid.ColumnCount()) != grid.ColumnCount())
         ArrangeColumns(table, *model, grid);
     }
+    if (aspect == Aspect::kState) table->viewport()->update();
     if (aspect == Aspect::kRows || aspect == Aspect::kSelection) DrawSelection(table, grid);
   });
   form.AddSizer([table, model, &grid] {

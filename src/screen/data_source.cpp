@@ -67,6 +67,7 @@ void DataSource::Open(Database& database, std::string_view source) {
 void DataSource::Save() {
   const bool adding = rows_.IsOpen() && rows_.IsAdding();
   rows_.Update();
+  for (TableGrid* grid : grids_) grid->ValuesChanged();
   if (!adding) return;
   LoadFields();
   RunReposition();

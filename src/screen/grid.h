@@ -107,6 +107,8 @@ class TableGrid : public Grid {
   // The row set has other rows now, or another current one: faces draw anew.
   void RowsChanged();
   void CursorMoved();
+  // The current row has other values.
+  void ValuesChanged() { Notify(Aspect::kState); }
 
  protected:
   void MoveCursor(std::int64_t row) override;

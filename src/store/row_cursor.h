@@ -111,6 +111,8 @@ class RowCursor {
   std::vector<std::string> row_;  // as stored; while adding the defaults
   std::map<int, std::string> waiting_;
   std::vector<std::string> scratch_;
+  std::vector<std::string> defaults_;  // of a new row; like the statement made with the first one
+  std::string insert_sql_;
   bool adding_ = false;
   std::optional<std::map<int, std::string>> untouched_;  // what waits in a new row that may be dropped
 

@@ -12,6 +12,19 @@ namespace {
 
 const std::string kNothing;
 
+// Of all columns but the key, in their order.
+std::string InsertSql(const TableSchema& table) {
+  std::string names;
+  std::string marks;
+  int count = 0;
+  for (const TableSchema::Column& column : table.columns) {
+    if (column.key) continue;
+    names += (names.empty() ? "" : ", ") + QuotedName(column.name);
+    marks += (marks.empty() ? "?" : ", ?") + std::to_string(++count);
+  }
+  return "INSERT INTO " + table.quoted + " (" + names + ") VALUES (" + marks + ")";
+}
+
 }  // namespace
 
 void RowCursor::CheckColumn(int column) const {
@@ -77,7 +90,8 @@ void RowCursor::LeaveRow() {
 void RowCursor::AddNew() {
   LeaveRow();
   untouched_.reset();
-  row_ = ReadDefaults(connection_, *table_);
+  if (defaults_.empty()) defaults_ = ReadDefaults(connection_, *table_);
+  row_ = defaults_;
   adding_ = true;
   attempt_.reset();
   events_.repositioned = true;
@@ -177,18 +191,13 @@ void RowCursor::CheckWaiting() const {
 }
 
 void RowCursor::CommitNew() {
-  std::string names;
-  std::string marks;
   std::vector<int> columns;
+  columns.reserve(table_->columns.size());
   for (int i = 0; i < static_cast<int>(table_->columns.size()); ++i) {
-    const TableSchema::Column& column = table_->columns[static_cast<std::size_t>(i)];
-    if (column.key) continue;
-    columns.push_back(i);
-    names += (names.empty() ? "" : ", ") + QuotedName(column.name);
-    marks += (marks.empty() ? "?" : ", ?") + std::to_string(columns.size());
+    if (!table_->columns[static_cast<std::size_t>(i)].key) columns.push_back(i);
   }
-  Statement insert =
-      connection_.Use("INSERT INTO " + table_->quoted + " (" + names + ") VALUES (" + marks + ")");
+  if (insert_sql_.empty()) insert_sql_ = InsertSql(*table_);
+  Statement insert = connection_.Use(insert_sql_);
   for (std::size_t i = 0; i < columns.size(); ++i) insert.Bind(static_cast<int>(i) + 1, Value(columns[i]));
   attempt_.reset();
   sqlite3_set_last_insert_rowid(connection_.handle(), 0);
@@ -235,7 +244,7 @@ void RowCursor::CommitChanges() {
             QuotedName(table_->columns[static_cast<std::size_t>(entry.first)].name) + " = ?" +
             std::to_string(++position);
   }
-  Statement update = connection_.Prepare("UPDATE " + table_->quoted + " SET " + sets + " WHERE rowid = ?1");
+  Statement update = connection_.Use("UPDATE " + table_->quoted + " SET " + sets + " WHERE rowid = ?1");
   update.Bind(1, place_->key);
   position = 1;
   for (const auto& entry : waiting_) update.Bind(++position, entry.second);

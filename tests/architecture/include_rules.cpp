@@ -36,6 +36,7 @@ const std::vector<OwnedHeader> kOwnedHeaders = {
     {std::regex("Q[A-Z].*|Qt.*/.*"), "desktop"},
     {std::regex("sqlite3.*\\.h"), "store"},
     {std::regex("xlsxwriter.*\\.h"), "listing"},
+    {std::regex("expat\\.h|zlib\\.h"), "catalogues"},
 };
 
 struct Include {

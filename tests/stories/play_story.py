@@ -49,7 +49,8 @@ def play(script_program, folder, script, at):
     path.write_text(script, encoding="utf-8")
     for command in re.findall(r"^# before (.+)$", script, re.MULTILINE):
         subprocess.run(["sh", "-ec", command], cwd=folder, check=True, timeout=60)
-    done = run([script_program, "--now", NOW, "--seed", SEED, folder, path])
+    program = pathlib.Path(script_program).resolve()
+    done = run([program, "--now", NOW, "--seed", SEED, folder, path], cwd=folder)
     lines = done.stdout.decode("utf-8", "backslashreplace").splitlines()
     errors = done.stderr.decode("utf-8", "backslashreplace").splitlines()
     wanted = re.search(r"^# exit (\d+)$", script, re.MULTILINE)

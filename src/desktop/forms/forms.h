@@ -3,6 +3,7 @@
 #include "app/main_screen.h"
 #include "app/splash.h"
 #include "catalogues/accessories.h"
+#include "catalogues/price_list/frm_price_list.h"
 #include "catalogues/products.h"
 #include "catalogues/suppliers.h"
 #include "curtain_wizard/frm_preferences.h"
@@ -28,6 +29,7 @@ void BuildPreferencesForm(Form& form, curtain_wizard::FrmPreferences& screen);
 void BuildProductsForm(Form& form, catalogues::FrmFabricDatabase2& screen);
 void BuildAccessoriesForm(Form& form, catalogues::FrmItemsDatabase& screen);
 void BuildSuppliersForm(Form& form, catalogues::frmSuppliers2& screen);
+void BuildPriceListForm(Form& form, catalogues::FrmPriceList& screen);
 void BuildWizardForm(Form& form, curtain_wizard::MainCWizard& wizard);
 void BuildPricingForm(Form& form, curtain_wizard::FrmPopUp1& screen);
 void BuildPricingEntryForm(Form& form, curtain_wizard::FrmPopUp1Options& screen);

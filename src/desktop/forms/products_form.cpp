@@ -86,7 +86,8 @@ void BuildProductsForm(Form& form, FrmFabricDatabase2& screen) {
   FillCatalogue(form, screen,
                 {.list = kColumns,
                  .record = [&screen](Builder& build) { return Record(build, screen); },
-                 .use = {&screen.CmdUseInCW, &screen.CmdSingleItems}});
+                 .use = {&screen.CmdUseInCW, &screen.CmdSingleItems},
+                 .more = {&screen.CmdPriceList}});
   ChooseCategory(form, screen);
   for (const Button* button : {&screen.CmdUseInCW, &screen.CmdSingleItems}) {
     SayWhyOff(form, *button, "No product was found.");

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "catalogues/price_list/sheet_cells.h"
+#include "catalogues/price_list/zip_parts.h"
+
+namespace tarvane::catalogues {
+
+// The cells of the first sheet of an XLSX file that has any; as ReadSpreadsheet tells.
+SheetCells ReadXlsx(const ZipParts& parts, const KeepGoing& keep_going);
+
+}  // namespace tarvane::catalogues
