@@ -4,6 +4,7 @@
 #include "app/main_screen.h"
 #include "app/show.h"
 #include "app/splash.h"
+#include "blinds/templates.h"
 #include "catalogues/suppliers.h"
 #include "tools/list_admin.h"
 #include "tools/options.h"
@@ -69,7 +70,7 @@ const std::vector<Command>& Commands() {
       {kEntry, "MunData", "MunCustomersDetails", -1, "&Customers Records", "", kNotBuilt},
       {kEntry, "MunData", "MunFabricDatabase",  -1, "Products Database", "", kNotBuilt},
       {kEntry, "MunData", "MunSuppliersData",   -1, "Suppliers Database", "", Show<catalogues::frmSuppliers2>},
-      {kEntry, "MunData", "munTem",             -1, "Wizard Templates Database", "", kNotBuilt},
+      {kEntry, "MunData", "munTem",             -1, "Wizard Templates Database", "", Show<blinds::FrmBlindsTemplates>},
       {kEntry, "MunData", "MunFrmPopUp1",       -1, "Pricing Database for Curtain Wizard", "", kNotBuilt},
       {kEntry, "MunData", "MunAccressDatabase", -1, "Accressories Database", "", kNotBuilt},
       {kEntry, "MunData", "munInvoicing",       -1, "&Invoicing", "", kNotBuilt},
@@ -137,7 +138,7 @@ const std::vector<Command>& Commands() {
       {kButton, "", "CmdFittingDate",       -1, "...", "Fitting date", kNotBuilt},
       {kButton, "", "Command9",             -1, "...", "Date created", kNotBuilt},
       {kButton, "", "Command1",              0, "Add Curtain Wizard", "", Run<&Main::AddCurtain>},
-      {kButton, "", "Command1",              1, "Add Items Wizard Using Templates Database", "", kNotBuilt},
+      {kButton, "", "Command1",              1, "Add Items Wizard Using Templates Database", "", Run<&Main::AddBlind>},
       {kButton, "", "Command1",              2, "Edit Item", "", Run<&Main::EditItem>},
       {kButton, "", "Command1",              3, "Add Item Wizard", "", Run<&Main::RefreshAfterItem>},
   };

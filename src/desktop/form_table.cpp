@@ -33,6 +33,8 @@ void ShowItem(MainScreen& main) {
   main.EditItem();
 }
 
+void ShowNewItem(MainScreen& main) { main.AddBlind(); }
+
 bool Waits(const DataSource& source) { return source.rows().IsOpen() && source.rows().IsEditing(); }
 
 // A job that isn't open can't have been typed into.
@@ -46,6 +48,15 @@ std::string Unsaved(tools::frmOptions& options) {
   return Waits(options.Data1) ? "the preferences of the shop" : "";
 }
 void Save(tools::frmOptions& options) { options.cmdOK.Press(); }
+
+std::string Unsaved(blinds::WizardNewBlinds& wizard) {
+  if (wizard.item_saved() || !wizard.has_changes()) return {};
+  const std::string& description = wizard.HPtxtFields[blinds::WizardNewBlinds::kDescription].text();
+  return description.empty() ? "the item" : "the item \"" + description + "\"";
+}
+void Save(blinds::WizardNewBlinds& wizard) {
+  (wizard.CmdFinishTwo.visible() ? wizard.CmdFinishTwo : wizard.CmdUpdateAndClose).Press();
+}
 
 template <typename Shown>
 constexpr bool kKeepsRows = requires(Shown& screen) {
@@ -90,6 +101,8 @@ const std::array kForms = {
     Row<catalogues::frmSuppliers2, BuildSuppliersForm>("suppliers", kPlaced),
     Row<FrmPreferences, BuildPreferencesForm>("preferences", kCentred, ShowPreferences),
     Row<MainCWizard, BuildWizardForm>("wizard", kPlaced, ShowItem),
+    Row<blinds::WizardNewBlinds, BuildBlindWizardForm>("item-wizard", kPlaced, ShowNewItem),
+    Row<blinds::FrmBlindsTemplates, BuildTemplatesForm>("templates", kPlaced),
 };
 
 }  // namespace

@@ -176,7 +176,10 @@ std::string JobScreen::RaiseOrderNumber() {
 
 void JobScreen::Activate() {
   cboVAT.SetText(kNoTax);
-  RunEach({[this] { RefreshSettings(); }, [this] { Records.Show(); }, [this] { Refresh(); }});
+  RunEach({[this] { RefreshSettings(); }, [this] { Records.Show(); }, [this] { Refresh(); },
+           [this] {
+             if (std::exchange(save_is_due_, false) && !JobIsOpen()) Data1.Save();
+           }});
 }
 
 void JobScreen::Refresh() {

@@ -135,6 +135,9 @@ class JobScreen : public Screen {
   // Works out all totals of the job. Faults where 5T(4) isn't a number.
   void cal();
 
+  // Another screen has put something into the job. It waits for the worker's next save or move like all that
+  // is typed; into a job that isn't open, and so can't be saved, it is committed with the next activation.
+  void SaveUnlessOpen() { save_is_due_ = true; }
   // Drops what waits unsaved: the job is again as it stands on the disk, or gone where it was new.
   void DiscardChanges();
 
@@ -203,6 +206,7 @@ class JobScreen : public Screen {
   // The stored text that each room's grid was made of; none where it is to be read first.
   std::array<std::optional<std::string>, kRoomCount> grid_text_;
   bool unseen_ = false;
+  bool save_is_due_ = false;
 };
 
 }  // namespace tarvane::job

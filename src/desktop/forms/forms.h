@@ -2,6 +2,8 @@
 
 #include "app/main_screen.h"
 #include "app/splash.h"
+#include "blinds/item_wizard.h"
+#include "blinds/templates.h"
 #include "catalogues/suppliers.h"
 #include "curtain_wizard/frm_preferences.h"
 #include "curtain_wizard/wizard.h"
@@ -20,6 +22,8 @@ void BuildListAdminForm(Form& form, tools::FrmListAdmin& screen);
 void BuildEnterSalesPersonForm(Form& form, tools::FrmEnterSalesPerson& screen);
 void BuildPreferencesForm(Form& form, curtain_wizard::FrmPreferences& screen);
 void BuildSuppliersForm(Form& form, catalogues::frmSuppliers2& screen);
+void BuildBlindWizardForm(Form& form, blinds::WizardNewBlinds& wizard);
+void BuildTemplatesForm(Form& form, blinds::FrmBlindsTemplates& screen);
 void BuildWizardForm(Form& form, curtain_wizard::MainCWizard& wizard);
 
 }  // namespace tarvane::desktop
