@@ -4,6 +4,7 @@
 #include "app/main_screen.h"
 #include "app/show.h"
 #include "app/splash.h"
+#include "blinds/templates.h"
 #include "catalogues/accessories.h"
 #include "catalogues/products.h"
 #include "catalogues/suppliers.h"
@@ -72,7 +73,7 @@ const std::vector<Command>& Commands() {
       {kEntry, "MunData", "MunCustomersDetails", -1, "&Customers Records", "", kNotBuilt},
       {kEntry, "MunData", "MunFabricDatabase",  -1, "Products Database", "", Show<catalogues::FrmFabricDatabase2>},
       {kEntry, "MunData", "MunSuppliersData",   -1, "Suppliers Database", "", Show<catalogues::frmSuppliers2>},
-      {kEntry, "MunData", "munTem",             -1, "Wizard Templates Database", "", kNotBuilt},
+      {kEntry, "MunData", "munTem",             -1, "Wizard Templates Database", "", Show<blinds::FrmBlindsTemplates>},
       {kEntry, "MunData", "MunFrmPopUp1",       -1, "Pricing Database for Curtain Wizard", "", Show<curtain_wizard::FrmPopUp1>},
       {kEntry, "MunData", "MunAccressDatabase", -1, "Accressories Database", "", Show<catalogues::FrmItemsDatabase>},
       {kEntry, "MunData", "munInvoicing",       -1, "&Invoicing", "", kNotBuilt},
@@ -140,7 +141,7 @@ const std::vector<Command>& Commands() {
       {kButton, "", "CmdFittingDate",       -1, "...", "Fitting date", kNotBuilt},
       {kButton, "", "Command9",             -1, "...", "Date created", kNotBuilt},
       {kButton, "", "Command1",              0, "Add Curtain Wizard", "", Run<&Main::AddCurtain>},
-      {kButton, "", "Command1",              1, "Add Items Wizard Using Templates Database", "", kNotBuilt},
+      {kButton, "", "Command1",              1, "Add Items Wizard Using Templates Database", "", Run<&Main::AddBlind>},
       {kButton, "", "Command1",              2, "Edit Item", "", Run<&Main::EditItem>},
       {kButton, "", "Command1",              3, "Add Item Wizard", "", Run<&Main::RefreshAfterItem>},
   };

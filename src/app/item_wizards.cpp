@@ -1,11 +1,51 @@
 // How the item wizards are opened, and what follows them.
 #include "app/main_screen.h"
 #include "app/show.h"
+#include "blinds/item_wizard.h"
 #include "curtain_wizard/single_item.h"
 #include "curtain_wizard/wizard.h"
 #include "text/trim.h"
 
 namespace tarvane::app {
+
+namespace {
+
+// Shows the wizard over the room that is open. What follows is compiled anew, and goes to the disk with an
+// item that was saved.
+template <typename Wizard>
+void ShowOverRoom(MainScreen& main, Wizard& wizard, TextField& room_index) {
+  room_index.SetText(NumberText(main.TxtRoomNum.Number() - 1));
+  main.ShowModal(wizard);
+  main.RefreshAfterItem();
+  if (wizard.item_saved()) main.SaveRecord();
+}
+
+// The selected row of the room that is open.
+struct ItemRow {
+  explicit ItemRow(const MainScreen& main)
+      : grid(main.RoomItemGrid[main.RoomIndex()]), row(grid.selected_row()) {}
+  std::string_view Cell(int column) const { return TrimSpaces(grid.Text(row, column)); }
+
+  const HeldGrid& grid;
+  std::int64_t row;
+};
+
+void EditCurtain(MainScreen& main, const ItemRow& item) {
+  auto wizard = MakeScreen<curtain_wizard::MainCWizard>(main);
+  wizard.Txtinfo.SetText(item.Cell(job::kInfomationColumn));
+  wizard.TxtRow.SetText(std::to_string(item.row));
+  wizard.TxtViewOnly.SetText("1");
+  ShowOverRoom(main, wizard, wizard.RoomIndex);
+}
+
+void EditBlind(MainScreen& main, const ItemRow& item) {
+  auto wizard = MakeScreen<blinds::WizardNewBlinds>(main);
+  wizard.Txtinfo.SetText(item.Cell(job::kInfomationColumn));
+  wizard.TxtRow.SetText(std::to_string(item.row));
+  ShowOverRoom(main, wizard, wizard.TargetRoomIndex);
+}
+
+}  // namespace
 
 void MainScreen::SetItemRules() {
   for (HeldGrid& grid : RoomItemGrid) {
@@ -19,33 +59,27 @@ void MainScreen::SetItemRules() {
 void MainScreen::AddCurtain() {
   NeedRecord();
   auto wizard = MakeScreen<curtain_wizard::MainCWizard>(*this);
-  wizard.RoomIndex.SetText(NumberText(TxtRoomNum.Number() - 1));
   wizard.CmdFinishTwo.SetVisible(true);
-  ShowModal(wizard);
-  RefreshAfterItem();
-  // What was compiled anew goes to the disk with the item.
-  if (wizard.item_saved()) SaveRecord();
+  ShowOverRoom(*this, wizard, wizard.RoomIndex);
+}
+
+void MainScreen::AddBlind() {
+  NeedRecord();
+  auto wizard = MakeScreen<blinds::WizardNewBlinds>(*this);
+  ShowOverRoom(*this, wizard, wizard.TargetRoomIndex);
 }
 
 void MainScreen::EditItem() {
-  const HeldGrid& grid = RoomItemGrid[RoomIndex()];
-  const std::string_view dialogbox = TrimSpaces(grid.Text(grid.selected_row(), job::kDialogboxColumn));
-  // Items of any other editor have no way in.
-  const bool curtain = dialogbox == "CurtainWizard" || dialogbox == "MainCWizard";
-  const bool saved = curtain && EditCurtain(grid);
-  RefreshAfterItem();
-  if (saved) SaveRecord();
-}
-
-bool MainScreen::EditCurtain(const HeldGrid& grid) {
-  const std::int64_t row = grid.selected_row();
-  auto wizard = MakeScreen<curtain_wizard::MainCWizard>(*this);
-  wizard.RoomIndex.SetText(NumberText(TxtRoomNum.Number() - 1));
-  wizard.Txtinfo.SetText(TrimSpaces(grid.Text(row, job::kInfomationColumn)));
-  wizard.TxtRow.SetText(std::to_string(row));
-  wizard.TxtViewOnly.SetText("1");
-  ShowModal(wizard);
-  return wizard.item_saved();
+  const ItemRow item(*this);
+  const std::string_view dialogbox = item.Cell(job::kDialogboxColumn);
+  if (dialogbox == "CurtainWizard" || dialogbox == "MainCWizard") {
+    EditCurtain(*this, item);
+  } else if (dialogbox == "AddItem") {
+    EditBlind(*this, item);
+  } else {
+    // Items of any other editor have no way in.
+    RefreshAfterItem();
+  }
 }
 
 void MainScreen::RefreshAfterItem() {

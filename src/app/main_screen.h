@@ -49,6 +49,7 @@ class MainScreen : public job::JobScreen {
   void SendMail();
   void VisitWebSite();
   void AddCurtain();
+  void AddBlind();
   void EditItem();
   void RefreshAfterItem();  // what follows each of the item wizards
   void ShowQuickWizard();
@@ -70,7 +71,6 @@ class MainScreen : public job::JobScreen {
   void loadINI();
   void FillSalesPersons();
   void ReadSettings();
-  bool EditCurtain(const HeldGrid& grid);  // true where the item was saved
   void NeedRecord() const;
   void JobsAreBack();
 

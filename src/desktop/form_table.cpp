@@ -45,6 +45,8 @@ void ShowItem(MainScreen& main) {
   main.EditItem();
 }
 
+void ShowNewItem(MainScreen& main) { main.AddBlind(); }
+
 bool Waits(const DataSource& source) { return source.rows().IsOpen() && source.rows().IsEditing(); }
 
 // A job that isn't open can't have been typed into.
@@ -70,6 +72,14 @@ std::string Unsaved(FrmPopUp1Options& entry) {
   return "the price of " + (entry.Description.empty() ? "a style without a name" : entry.Description.text());
 }
 void Save(FrmPopUp1Options& entry) { entry.Save(); }
+std::string Unsaved(blinds::WizardNewBlinds& wizard) {
+  if (wizard.item_saved() || !wizard.has_changes()) return {};
+  const std::string& description = wizard.HPtxtFields[blinds::WizardNewBlinds::kDescription].text();
+  return description.empty() ? "the item" : "the item \"" + description + "\"";
+}
+void Save(blinds::WizardNewBlinds& wizard) {
+  (wizard.CmdFinishTwo.visible() ? wizard.CmdFinishTwo : wizard.CmdUpdateAndClose).Press();
+}
 
 template <typename Shown>
 constexpr bool kKeepsRows = requires(Shown& screen) {
@@ -122,6 +132,8 @@ const std::array kForms = {
     Row<FrmPopUp1Options, BuildPricingEntryForm>("pricing-entry", kCentred),
     Row<FrmPleats, BuildPleatsForm>("pleats", kCentred, ShowOverWizard<FrmPleats>),
     Row<FrmSimgleItem, BuildSingleItemForm>("single-item", kCentred),
+    Row<blinds::WizardNewBlinds, BuildBlindWizardForm>("item-wizard", kPlaced, ShowNewItem),
+    Row<blinds::FrmBlindsTemplates, BuildTemplatesForm>("templates", kPlaced),
 };
 
 }  // namespace

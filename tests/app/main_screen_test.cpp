@@ -22,6 +22,11 @@ std::string ItemLine(std::string_view price, std::string_view dialogbox, std::st
   return std::string(price) + "|item|state|" + std::string(dialogbox) + "|101|" + std::string(info) + "|\r\n";
 }
 
+std::string TextOf(const Screen& screen, std::string_view name) {
+  const auto* field = dynamic_cast<const TextField*>(screen.Find(name));
+  return field == nullptr ? "(none)" : field->text();
+}
+
 class MainScreenTest : public testing::Test {
  protected:
   // Starts the program, acknowledges the splash, does `steps` and ends it as its window's close button does.
@@ -448,12 +453,14 @@ TEST_F(MainScreenTest, AddsAnItem) {
   });
 }
 
-TEST_F(MainScreenTest, EditsItemsOfTheCurtainWizardOnly) {
+TEST_F(MainScreenTest, EditsItemsInTheWizardThatTheyComeFrom) {
   const struct {
     std::string dialogbox;
-    bool opens;
-  } kCases[] = {{"CurtainWizard", true},  {"MainCWizard", true}, {" CurtainWizard ", true},
-                {"curtainwizard", false}, {"AddItem", false},    {"", false}};
+    std::string opens;
+  } kCases[] = {
+      {"CurtainWizard", "MainCWizard"},   {"MainCWizard", "MainCWizard"}, {"", ""},
+      {" CurtainWizard ", "MainCWizard"}, {"curtainwizard", ""},          {"AddItem", "WizardNewBlinds"},
+      {" AddItem ", "WizardNewBlinds"}};
   std::string items;
   for (const auto& c : kCases) items += ItemLine("1", c.dialogbox);
   AddJobs({{{"1T(0)", items}}});
@@ -464,14 +471,19 @@ TEST_F(MainScreenTest, EditsItemsOfTheCurtainWizardOnly) {
       ++row;
       host_.shown.clear();
       host_.shows.clear();
-      host_.OnShow<curtain_wizard::MainCWizard>([row](curtain_wizard::MainCWizard& wizard) {
-        EXPECT_EQ(wizard.TxtRow.text(), std::to_string(row));
-        EXPECT_EQ(wizard.TxtViewOnly.text(), "1");
-        EXPECT_EQ(wizard.RoomIndex.text(), "0");
+      host_.shows.emplace_back([row](Screen& wizard) {
+        EXPECT_EQ(TextOf(wizard, "TxtRow"), std::to_string(row));
+        EXPECT_EQ(TextOf(wizard, "Txtinfo"), "state");
+        const bool curtain = wizard.name() == curtain_wizard::MainCWizard::kName;
+        if (curtain) {
+          EXPECT_EQ(TextOf(wizard, "TxtViewOnly"), "1");
+        }
+        EXPECT_EQ(TextOf(wizard, curtain ? "RoomIndex" : "Text37"), "0");
       });
       main.Label8[0].SetCaption("");
       main.RoomItemGrid[0].UserOpenRow(row);
-      EXPECT_EQ(host_.shown.size(), c.opens ? 1u : 0u) << c.dialogbox;
+      EXPECT_EQ(host_.shown, c.opens.empty() ? std::vector<std::string>() : std::vector{c.opens})
+          << c.dialogbox;
       EXPECT_EQ(main.Label8[0].caption(), "Room 1 as been Re-Compiled. ") << "after the empty route too";
     }
     host_.shown.clear();

@@ -2,6 +2,8 @@
 
 #include "app/main_screen.h"
 #include "app/splash.h"
+#include "blinds/item_wizard.h"
+#include "blinds/templates.h"
 #include "catalogues/accessories.h"
 #include "catalogues/price_list/frm_price_list.h"
 #include "catalogues/products.h"
@@ -30,6 +32,8 @@ void BuildProductsForm(Form& form, catalogues::FrmFabricDatabase2& screen);
 void BuildAccessoriesForm(Form& form, catalogues::FrmItemsDatabase& screen);
 void BuildSuppliersForm(Form& form, catalogues::frmSuppliers2& screen);
 void BuildPriceListForm(Form& form, catalogues::FrmPriceList& screen);
+void BuildBlindWizardForm(Form& form, blinds::WizardNewBlinds& wizard);
+void BuildTemplatesForm(Form& form, blinds::FrmBlindsTemplates& screen);
 void BuildWizardForm(Form& form, curtain_wizard::MainCWizard& wizard);
 void BuildPricingForm(Form& form, curtain_wizard::FrmPopUp1& screen);
 void BuildPricingEntryForm(Form& form, curtain_wizard::FrmPopUp1Options& screen);
