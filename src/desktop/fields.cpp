@@ -249,6 +249,7 @@ QWidget* MakeButton(Form& form, Button& button, bool strong) {
     QFont font = made->font();
     font.setBold(true);
     made->setFont(font);
+    made->setProperty(kStrongButton, true);
   }
   form.Bind(button, made, [made, &button](Aspect aspect) {
     if (aspect == Aspect::kCaption) made->setText(ToQt(button.caption()));

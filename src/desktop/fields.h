@@ -17,6 +17,8 @@ QLineEdit* MakeLineEdit(Form& form, TextField& field, bool mirror = false);
 QPlainTextEdit* MakeMemo(Form& form, TextField& field, char line_mark);
 QComboBox* MakeDropDown(Form& form, DropDownList& list);
 QWidget* MakeTickBox(Form& form, TickBox& box);
+// A property of the widget that says whether the button is its window's strong one.
+inline constexpr char kStrongButton[] = "strong";
 QWidget* MakeButton(Form& form, Button& button, bool strong);
 QWidget* MakeLabel(Form& form, Label& label);
 QWidget* MakeCalendar(Form& form, Calendar& calendar);

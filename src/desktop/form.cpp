@@ -4,10 +4,13 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QWidget>
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 
+#include "desktop/fields.h"
 #include "screen/kinds.h"
 
 namespace tarvane::desktop {
@@ -352,9 +355,27 @@ bool Form::eventFilter(QObject* watched, QEvent* event) {
 
 namespace {
 
-void GoOnFrom(QWidget* widget) {
+void PressTab(QWidget* widget) {
   QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
   QCoreApplication::sendEvent(widget, &tab);
+}
+
+// A small button that stands beside a field: not what the window is there for.
+bool IsBeside(const QWidget& field, const QWidget& other) {
+  if (qobject_cast<const QPushButton*>(&other) == nullptr || other.property(kStrongButton).toBool())
+    return false;
+  const int apart =
+      field.mapToGlobal(field.rect().center()).y() - other.mapToGlobal(other.rect().center()).y();
+  return std::abs(apart) < field.height() / 2;
+}
+
+// To what comes next, past the buttons that stand beside the field that is left.
+void GoOnFrom(QWidget* widget) {
+  QWidget* next = widget;
+  do {
+    PressTab(next);
+    next = QApplication::focusWidget();
+  } while (next != nullptr && next != widget && IsBeside(*widget, *next));
 }
 
 }  // namespace

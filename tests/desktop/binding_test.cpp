@@ -4,7 +4,6 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLineEdit>
-#include <QTableView>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
