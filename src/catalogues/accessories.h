@@ -9,9 +9,9 @@
 
 namespace tarvane::catalogues {
 
-// Small goods and extras. The one catalogue with a working mark-up, which rules the selling price of every
-// record that comes on the screen. An accessory goes into a room of the open job, or to the screen that this
-// one was opened for. Any text fits into any field; what is no number counts as 0.
+// Small goods and extras. Here alone the mark-up does something: it rules the selling price of every record
+// that is looked at. An accessory goes into a room of the open job, or to the screen that this one was opened
+// for. Any text fits into any field; what is no number counts as 0.
 class FrmItemsDatabase : public Catalogue {
  public:
   static constexpr std::string_view kName = "FrmItemsDatabase";

@@ -25,7 +25,7 @@ struct PleatLayout {
 // faults.
 PleatLayout LayOutPleats(std::string_view track, std::string_view pleats, std::string_view earlier_size);
 
-// Spaces hand-made pleats along a track, and hands track and text over to the wizard.
+// Tells how far apart pleats go that are sewn by hand, and puts the track and the answer into the wizard.
 class FrmPleats : public Screen {
  public:
   static constexpr std::string_view kName = "FrmPleats";

@@ -12,8 +12,8 @@ class Shop;
 
 namespace tarvane::listing {
 
-// Fills a list with one short line for each row of a table: its key, "* ", and what names the row. Whoever
-// reads a line cuts it at the first star to get the key back.
+// Fills a list with one short line for each row of a table: its key, "* ", and what names the row. What
+// stands before the first star of a line is therefore the key of its row.
 //
 // Lines are made as they are looked at: a table of a million rows is there at once. They follow what is
 // written to the table; ListBox::LinesChanged tells faces to count them anew. A table that can't be had

@@ -16,8 +16,8 @@ namespace tarvane {
 
 using RowValues = std::map<std::string, std::string>;
 
-// A program folder of its own for one test, gone with it. The job database has its tables and no rows; the other
-// databases come into being with MakeFile or the first row of one of their tables.
+// A program folder of its own for one test, gone with it. The job database has its tables and no rows; the
+// other databases come into being with MakeFile or the first row of one of their tables.
 class ShopFolder {
  public:
   ShopFolder() {
