@@ -117,7 +117,7 @@ class WizardNewBlinds : public Screen {
   void FinishNew();
   void Update();
   HeldGrid::Row CompiledLine();
-  void SaveInJob(const std::function<void(std::size_t room, HeldGrid& grid)>& change);
+  void Save(const std::function<void()>& put);
 
   Shop& shop_;
   job::JobScreen& job_;

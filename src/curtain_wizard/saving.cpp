@@ -1,17 +1,13 @@
 #include "curtain_wizard/item_line.h"
 #include "curtain_wizard/item_record.h"
 #include "curtain_wizard/wizard.h"
+#include "job/item_saving.h"
 #include "job/job_screen.h"
 
 namespace tarvane::curtain_wizard {
 namespace {
 
 const std::string kRule(58, '-');
-
-// A new item is summed up on the tab that is in view, whichever room it belongs to.
-TextField& ShownSummary(job::JobScreen& job) {
-  return job.RoomSummary[static_cast<std::size_t>(job.SelectedRoom()) - 1];
-}
 
 std::string Size(const MainCWizard& w) {
   const std::string& unit = w.UnitLabel[0].caption();
@@ -35,12 +31,6 @@ std::string LongDescription(const MainCWizard& w) {
          Tags(w);
 }
 
-// Letters in the paid amount stop the totals; they are told when the job is refreshed.
-void WorkOutJob(job::JobScreen& job) {
-  IgnoreFaults([&job] { job.LoadRoom(); });
-  IgnoreFaults([&job] { job.cal(); });
-}
-
 // What follows the line number in the room's grid.
 HeldGrid::Row ItemLine(MainCWizard& w, std::string description) {
   return {w.GrandTotal.text(), std::move(description), ItemRecord(w),
@@ -48,14 +38,6 @@ HeldGrid::Row ItemLine(MainCWizard& w, std::string description) {
 }
 
 }  // namespace
-
-std::size_t RoomOf(const TextField& room_index) {
-  const double index = room_index.Number();
-  if (!(index >= 0 && index < static_cast<double>(job::kRoomCount))) {
-    throw Fault("There is no room for this item: room index \"" + room_index.text() + "\".");
-  }
-  return static_cast<std::size_t>(index);
-}
 
 HeldGrid::Row UpdatedItemLine(MainCWizard& w) { return ItemLine(w, LongDescription(w)); }
 
@@ -66,56 +48,23 @@ void MainCWizard::HookSaving() {
 }
 
 void MainCWizard::FinishNew() {
-  SaveInJob([this](std::size_t room, HeldGrid& grid) {
-    HeldGrid::Row line = ItemLine(*this, Size(*this));
-    line.insert(line.begin(), std::to_string(grid.selected_row()));
-    grid.AddRow(std::move(line));
-    job_->RewriteRoomText(room);
-
-    GrandTotal.SetText(Format2(GrandTotal.text()));
-    TextField& summary = ShownSummary(*job_);
-    summary.SetText(summary.text() + "\r\n\r\n" + ItemTextPriced.text() + "\r\n" + kRule +
-                    "\r\nPrice Includes Vat/Tax  " + GrandTotal.text() + "\r\n" + kRule);
-  });
+  job::AddItem(
+      *job_, job::RoomOf(RoomIndex), [this] { return ItemLine(*this, Size(*this)); },
+      [this] {
+        GrandTotal.SetText(Format2(GrandTotal.text()));
+        TextField& summary = job::ShownSummary(*job_);
+        summary.SetText(summary.text() + "\r\n\r\n" + ItemTextPriced.text() + "\r\n" + kRule +
+                        "\r\nPrice Includes Vat/Tax  " + GrandTotal.text() + "\r\n" + kRule);
+      });
+  CloseSaved();
 }
 
 void MainCWizard::Update() {
-  SaveInJob([this](std::size_t room, HeldGrid& grid) {
-    const double row = TxtRow.Number();
-    if (!(row >= 1 && row <= static_cast<double>(grid.RowCount()))) {
-      throw Fault("The item's row " + TxtRow.text() + " is not in the room any more.");
-    }
-    const HeldGrid::Row line = UpdatedItemLine(*this);
-    for (std::size_t i = 0; i < line.size(); ++i) {
-      grid.SetText(static_cast<std::int64_t>(row), static_cast<int>(i) + 1, line[i]);
-    }
-    job_->RewriteRoomText(room);
-  });
+  job::ReplaceItem(*job_, job::RoomOf(RoomIndex), TxtRow.text(), [this] { return UpdatedItemLine(*this); });
+  CloseSaved();
 }
 
-// Commits the job with `change` and closes. Where that faults the job is as it was, so that the worker may
-// try again without a second item.
-void MainCWizard::SaveInJob(const std::function<void(std::size_t, HeldGrid&)>& change) {
-  const std::size_t room = RoomOf(RoomIndex);
-  HeldGrid& grid = job_->RoomItemGrid[room];
-  TextField& summary = ShownSummary(*job_);
-  const auto rows = grid.rows();
-  const std::int64_t selected = grid.selected_row();
-  const std::string items = job_->RoomItems[room].text();
-  const std::string summary_text = summary.text();
-  try {
-    change(room, grid);
-    // The totals belong to the item: it is one commit.
-    WorkOutJob(*job_);
-    job_->Data1.Save();
-  } catch (...) {
-    grid.SetRows(rows);
-    grid.Select(selected);
-    job_->RoomItems[room].SetText(items);
-    summary.SetText(summary_text);
-    WorkOutJob(*job_);
-    throw;
-  }
+void MainCWizard::CloseSaved() {
   item_saved_ = true;
   Close();
 }

@@ -4,6 +4,7 @@
 #include "catalogues/products.h"
 #include "curtain_wizard/item_line.h"
 #include "curtain_wizard/wizard.h"
+#include "job/item_saving.h"
 #include "job/job_screen.h"
 #include "job/room_text.h"
 
@@ -90,7 +91,7 @@ void FrmSimgleItem::TakeProduct(std::string_view text, std::string_view price) {
 }
 
 void FrmSimgleItem::AddToRoom(MainCWizard& wizard) {
-  const std::size_t room = RoomOf(SingleRow);
+  const std::size_t room = job::RoomOf(SingleRow);
   HeldGrid& grid = job_->RoomItemGrid[room];
   HeldGrid::Row line = UpdatedItemLine(wizard);
   line.insert(line.begin(), std::to_string(grid.selected_row()));

@@ -311,7 +311,7 @@ class MainCWizard : public Screen {
   void ApplyRestored();
   void FinishNew();
   void Update();
-  void SaveInJob(const std::function<void(std::size_t room, HeldGrid& grid)>& change);
+  void CloseSaved();
   void CopyToClipboard();
 
   // List editor and tax rate.
