@@ -57,8 +57,8 @@ void FrmBlindsTemplates::SetRules() {
       Elements.Cal2();
     });
   }
-  Data1.OnReposition([this] { Elements.Cal2(); });
-  Quick.lstTitles.OnPicked([this] { Elements.Cal2(); });
+  Data1.OnReposition([this] { WorkOutShown(); });
+  Quick.lstTitles.OnPicked([this] { WorkOutShown(); });
   Check3.OnClicked([this] { ShowBuyPrice(Check3.on()); });
   Search.CboFabSearch.OnTyped([this] {
     if (Search.CboFabSearch.text() == kBuyPrice) ShowBuyPrice(true);
@@ -73,7 +73,17 @@ void FrmBlindsTemplates::ForWizard(WizardNewBlinds& wizard) {
   OpenFor(CmdUseItems);
 }
 
-void FrmBlindsTemplates::Activate() { Elements.Cal2(); }
+void FrmBlindsTemplates::Activate() { WorkOutShown(); }
+
+// What a template rounds as it comes into view is its own, but where it can only be read nothing may wait in
+// its row, or the worker couldn't go on to the next one.
+void FrmBlindsTemplates::WorkOutShown() {
+  if (shop().database(look().file).CanBeWritten()) {
+    Elements.Cal2();
+  } else {
+    Data1.WithoutWriting([this] { Elements.Cal2(); });
+  }
+}
 
 void FrmBlindsTemplates::ShowBuyPrice(bool shown) {
   Check3.Set(shown);

@@ -64,6 +64,7 @@ class FrmBlindsTemplates : public catalogues::Catalogue {
   void BindTemplate();
   void SetRules();
   void ShowBuyPrice(bool shown);
+  void WorkOutShown();
   void CommitForUse();
   void PutTemplateIntoRoom();
   void CopyIntoWizard();

@@ -4,6 +4,7 @@
 
 #include "blinds/item_wizard.h"
 #include "job/job_screen.h"
+#include "store/ordinary_user.h"
 #include "support/fake_host.h"
 #include "support/shop_folder.h"
 
@@ -80,6 +81,21 @@ TEST_F(TemplatesTest, WhatWasTypedIsCommittedBeforeItIsCopied) {
   EXPECT_EQ(wizard.HPtxtFields[10].text(), "new");
   EXPECT_EQ(wizard.HPtxtFields[11].text(), "left");
   EXPECT_FALSE(wizard.Command1.enabled());
+}
+
+// What would be rounded at a look mustn't hold the worker in its row.
+TEST_F(TemplatesTest, OnesThatCanOnlyBeReadAreLeafedThrough) {
+  for (const char* name : {"a", "b"}) folder_.AddRow("Templates", {{"Description", name}, {"Qty1", "2.5"}});
+  for (const auto& path : {folder_.path(), folder_.path() / "Dat"})
+    std::filesystem::permissions(path, std::filesystem::perms(0755));
+  std::filesystem::permissions(folder_.FileOf("Templates"), std::filesystem::perms(0444));
+  const OrdinaryUser user;
+  WithTemplates([this](FrmBlindsTemplates& t) {
+    EXPECT_EQ(t.Elements.TxtItemQty[0].text(), "3");
+    t.Records.CmdNext.UserPress();
+    EXPECT_EQ(t.Info[0].text(), "b");
+    EXPECT_TRUE(host_.messages.empty());
+  });
 }
 
 TEST_F(TemplatesTest, WithoutAFileThereIsNoScreen) {
