@@ -1,5 +1,6 @@
-// desktop_finder_grid FOLDER: how long the finder's grid takes, over the shop in FOLDER, for a page down, a
-// row down, and to the end and back, each with its drawing. Medians and the longest of all.
+// desktop_finder_grid FOLDER: how long the finder's grid, the products' list and the accessories' quick list
+// take, over the shop in FOLDER, for a page down, a row down, and to the end and back, each with its drawing;
+// and how long the windows of the two take to come up. Medians and the longest of all.
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QKeyEvent>
@@ -11,6 +12,9 @@
 #include <vector>
 
 #include "app/main_screen.h"
+#include "app/show.h"
+#include "catalogues/accessories.h"
+#include "catalogues/products.h"
 #include "desktop/qt_host.h"
 #include "desktop/theme.h"
 
@@ -77,20 +81,39 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "desktop_finder_grid FOLDER\n");
     return 2;
   }
+  using namespace tarvane;  // NOLINT(google-build-using-namespace)
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
-  tarvane::desktop::ApplyTheme({});
-  tarvane::desktop::QtHost host;
-  tarvane::Shop shop(argv[1]);
-  tarvane::app::MainScreen screen(host, shop);
-  host.OnShown([&screen](tarvane::desktop::Form& form) {
-    if (&form.screen() == &screen) {
-      form.window()->setWindowState(Qt::WindowNoState);
-      form.window()->resize(1366, 768);
-      if (!QTest::qWaitForWindowExposed(form.window())) std::exit(1);
-      tarvane::desktop::Measure(*qobject_cast<QTableView*>(form.WidgetOf(screen.QuickFinderGrid)));
+  desktop::ApplyTheme({});
+  desktop::QtHost host;
+  Shop shop(argv[1]);
+  app::MainScreen screen(host, shop);
+  QElapsedTimer opening;
+  const auto measure = [&](const char* what, desktop::Form& form, const Control& list) {
+    std::printf("%s\n", what);
+    if (&form.screen() != &screen) {
+      std::printf("window up after %.1f ms\n", static_cast<double>(opening.nsecsElapsed()) / 1e6);
     }
-    form.screen().Close();
+    form.window()->setWindowState(Qt::WindowNoState);
+    form.window()->resize(1366, 768);
+    if (!QTest::qWaitForWindowExposed(form.window())) std::exit(1);
+    desktop::Measure(*qobject_cast<QTableView*>(form.WidgetOf(list)));
+  };
+  host.OnShown([&](desktop::Form& form) {
+    Screen& shown = form.screen();
+    if (&shown == &screen) {
+      measure("the finder", form, screen.QuickFinderGrid);
+      opening.start();
+      app::ShowScreen<catalogues::FrmFabricDatabase2>(screen);
+      opening.start();
+      app::ShowScreen<catalogues::FrmItemsDatabase>(screen);
+    } else if (auto* products = dynamic_cast<catalogues::FrmFabricDatabase2*>(&shown)) {
+      measure("products", form, products->MSFlexGrid1);
+    } else if (auto* accessories = dynamic_cast<catalogues::FrmItemsDatabase*>(&shown)) {
+      accessories->Quick.Command1.UserPress();
+      measure("quick list of the accessories", form, accessories->Quick.lstTitles);
+    }
+    shown.Close();
   });
   screen.RunAsMain();
   return 0;
