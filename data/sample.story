@@ -1,5 +1,6 @@
 # A short day in the sample shop: a job is looked up and one of its items looked at; then a new job with one
-# window measured in inches and one in centimetres, a discount and the balance.
+# window measured in inches and one in centimetres, a blind, hold backs and a track out of the catalogues, a
+# discount and the balance.
 # sample
 press Command1
 
@@ -58,7 +59,7 @@ show CostingGrid
 show totalCostingWiz TotalCostingVat GrandTotal
 press CmdFinishTwo
 
-# The landing, in centimetres, plain fabric.
+# The landing, in centimetres, plain fabric: this one out of the product database.
 expect-screen Form1
 press "Add Curtain Wizard"
 type TxtDescription "Landing"
@@ -67,8 +68,14 @@ type TrackWidthCm 135
 type FinishedLengthCm 140
 type PatternRepeatCm 0
 press "Next >>"
-type FabricName "Plain linen, oat"
-type FabricPrice 18.95
+press "Get Fabric"
+expect-screen FrmFabricDatabase2
+choose CboFabSearch ProductName
+type FabSText "Plain linen, oat"
+enter FabSText
+press "Add  to Curtain Wizard."
+expect-screen MainCWizard
+show FabricName FabricPrice
 press "Next >>"
 press "Next >>"
 press "Next >>"
@@ -78,7 +85,51 @@ type TxtVatRate 20
 press CmdGetInfo
 press CmdFinishTwo
 
-# What the room and the job come to.
+# A blind for the bathroom, from a template. The lines that end with a colon are filled in.
+choose SSTab1 "Room 2"
+press "Add Items Wizard Using Templates Database"
+expect-screen WizardNewBlinds
+press "Get Items from Template Database"
+expect-screen FrmBlindsTemplates
+choose CboFabSearch Description
+type FabSText "Roller blind, wipe clean"
+enter FabSText
+press CmdUseItems
+expect-screen WizardNewBlinds
+type HPtxtFields[4] "Width (cm): 74"
+type HPtxtFields[5] "Drop (cm): 110"
+type HPtxtFields[6] "Fabric and colour: sea spray"
+show TxtGrandTotal
+press "Save New Order and Close"
+show Text13
+
+# A pair of hold backs, as a single item from the accessories.
+choose SSTab2 "Single Items / Check List"
+press "Add Item"
+press "Accessories/Items DB"
+expect-screen FrmItemsDatabase
+choose CboFabSearch ItemName
+type FabSText "Hold back, brass, lily"
+enter FabSText
+press "Use In Items"
+expect-screen FrmSimgleItem
+show SingleQty SingleDescription SinglePrice
+press "Process"
+show TxtSubTotal
+
+# A track that goes into room 3, which has no items: how many, and which room, is asked.
+press MunAccressDatabase
+choose CboFabSearch ItemName
+type FabSText "Corded track, 2.5 m"
+enter FabSText
+answer 1
+answer 3
+press "Use"
+press "Close"
+expect-screen Form1
+show Text15 Text14
+
+# What the first room and the job come to.
 show Text11 Text10
 type Ext4 5
 show G-Total TxtTotalDiscount 4text DepositPaid 5Text

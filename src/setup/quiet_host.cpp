@@ -22,7 +22,9 @@ void QuietHost::RunModal(Screen& screen) {
 }
 
 void QuietHost::Message(std::string_view, std::string_view text, Icon icon) {
-  if (icon != Icon::kInformation) throw Fault(std::string(text));
+  if (icon == Icon::kInformation) return;
+  const std::string end = std::exchange(notice_end_, "");
+  if (icon != Icon::kNone || end.empty() || !text.ends_with(end)) throw Fault(std::string(text));
 }
 
 Answer QuietHost::Ask(const Question& question) {
@@ -30,7 +32,10 @@ Answer QuietHost::Ask(const Question& question) {
 }
 
 std::optional<std::string> QuietHost::Input(std::string_view, std::string_view prompt, std::string_view) {
-  throw Fault(fmt::format("Nobody answers \"{}\".", prompt));
+  if (replies_.empty()) throw Fault(fmt::format("Nobody answers \"{}\".", prompt));
+  std::string reply = std::move(replies_.front());
+  replies_.pop_front();
+  return reply;
 }
 
 std::optional<std::filesystem::path> QuietHost::ChooseFile(FileChoice, std::string_view title,

@@ -11,6 +11,7 @@
 #include "app/main_screen.h"
 #include "curtain_wizard/wizard.h"
 #include "setup/quiet_host.h"
+#include "setup/sample_extras.h"
 #include "setup/sample_tables.h"
 #include "setup/sample_wizard.h"
 #include "text/fault.h"
@@ -32,8 +33,6 @@ constexpr int kFirstOpenJob = 36;  // those before are done, lost or waiting for
 
 Day DayOf(int job, int later = 0) { return kFirstDay + std::chrono::days(job * kDaysBetweenJobs + later); }
 DateTime TimeOf(int job) { return {.day = DayOf(job), .hour = 9 + job % 8, .minute = job * 7 % 60}; }
-
-std::string Money(int pence) { return fmt::format("{}.{:02}", pence / 100, pence % 100); }
 
 bool IsLost(int job) { return job % 11 == 7; }
 bool IsCompleted(int job) { return job < kFirstOpenJob && job % 5 != 2 && !IsLost(job); }
@@ -69,6 +68,7 @@ class SampleShop {
       EnterCustomer(job);
       EnterRooms(job);
       EnterSingles(job);
+      EnterExtras(host_, screen_, job);
       EnterTerms(job);
       EnterPayments(job);
       screen_.SaveRecord();
@@ -126,19 +126,12 @@ class SampleShop {
     screen_.CommandButton("Command1", 0).UserPress();
   }
 
-  // Their own screen is still to come: the lines are put in as it would write them.
   void EnterSingles(int job) {
     const auto singles = SampleSingles();
     const int count = job == kJustAsked ? 0 : RoomsOf(job).empty() ? 4 : job % 4;
-    std::vector<HeldGrid::Row> rows;
     for (int i = 0; i < count; ++i) {
-      const SampleSingle& single = singles[static_cast<std::size_t>(job + i * 3) % singles.size()];
-      rows.push_back({"", std::to_string(single.quantity), std::string(single.description),
-                      Money(single.pence), Money(single.quantity * single.pence)});
+      EnterSingle(host_, screen_, singles[static_cast<std::size_t>(job + i * 3) % singles.size()]);
     }
-    screen_.SingleItems.SetText(job::WriteItemLines(rows, job::kSingleItemLayout));
-    screen_.LoadSingles();
-    screen_.cal();
   }
 
   void EnterTerms(int job) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <span>
 #include <string_view>
 
@@ -72,8 +74,28 @@ struct SampleSingle {
   int pence;  // for one
 };
 
+// What a job gets from a catalogue.
+struct SampleExtra {
+  enum class Kind {
+    kTemplate,         // an item of a room
+    kProduct,          // a single item
+    kAccessory,        // a single item
+    kAccessoryInRoom,  // text of a room: one without items, which would go, and neither room 1 nor room 6
+  };
+  static constexpr std::size_t kLines = 3;
+
+  int job;   // from 0
+  int room;  // from 1; 0: none
+  Kind kind;
+  std::string_view name;  // in the catalogue
+  int quantity;
+  // Lines of a template as they read once they have been filled in, "Width (cm): 92"; blank: none.
+  std::array<std::string_view, kLines> lines = {};
+};
+
 std::span<const SampleCustomer> SampleCustomers();
 std::span<const SampleWindow> SampleWindows();
 std::span<const SampleSingle> SampleSingles();
+std::span<const SampleExtra> SampleExtras();
 
 }  // namespace tarvane::setup

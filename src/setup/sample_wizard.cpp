@@ -1,30 +1,17 @@
 #include "setup/sample_wizard.h"
 
-#include <algorithm>
 #include <string>
 #include <string_view>
 
 #include "curtain_wizard/wizard.h"
 #include "screen/kinds.h"
 #include "setup/sample_tables.h"
+#include "setup/sample_typing.h"
 #include "text/fault.h"
 
 namespace tarvane::setup {
 
 namespace {
-
-// Types the text and presses Enter.
-void Type(TextField& field, std::string_view text) {
-  if (!field.enabled()) throw Fault("The field " + field.name() + " takes no text here.");
-  field.UserType(text);
-  field.UserEnterKey();
-}
-
-void Pick(DropDownList& list, std::string_view entry) {
-  const auto found = std::ranges::find(list.entries(), entry);
-  if (found == list.entries().end()) throw Fault(list.name() + " offers no \"" + std::string(entry) + "\".");
-  list.UserPick(static_cast<std::size_t>(found - list.entries().begin()));
-}
 
 void Tick(curtain_wizard::MainCWizard& wizard, std::string_view name) {
   Control* const control = wizard.Find(name);

@@ -51,3 +51,12 @@ press CmdTakeOver
 expect-said "1 product added, 1 product changed."
 press CmdClose
 expect-screen FrmFabricDatabase2
+# What was taken over stands in the products.
+press CmdAllFab
+expect-rows MSFlexGrid1 3
+press CmdFirst
+expect ProductName "Voile, ivory"
+expect SuppliersName Tarnwater
+expect SellingPrice 26.50
+expect BuyPrice 11.00
+expect BarCode 5012345678900
