@@ -190,6 +190,8 @@ void QtHost::RunModal(Screen& screen) {
   forms_.pop_back();
   form.Detach();
   window->hide();
+  // Not every window manager gives the keyboard back by itself.
+  if (QWidget* below = TopWindow()) below->activateWindow();
 }
 
 namespace {

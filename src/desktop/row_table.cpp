@@ -90,6 +90,12 @@ void RowTable::scrollTo(const QModelIndex& index, ScrollHint hint) {
   viewport()->update();
 }
 
+// The table's own leaves the number of rows to the heading at the side.
+void RowTable::reset() {
+  QTableView::reset();
+  updateGeometries();
+}
+
 void RowTable::updateGeometries() {
   if (std::exchange(arranging_, true)) return;
   QHeaderView* header = horizontalHeader();

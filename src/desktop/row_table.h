@@ -17,6 +17,7 @@ class RowTable : public QTableView {
   QRect visualRect(const QModelIndex& index) const override;
   QModelIndex indexAt(const QPoint& point) const override;
   void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+  void reset() override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -61,7 +61,9 @@ class Photographer {
       VisitWizard(form, *wizard);
     } else {
       if (auto* lists = dynamic_cast<tools::FrmListAdmin*>(&form.screen())) lists->Lists.CMDLOAD.Press();
-      form.window()->resize(form.window()->sizeHint());
+      const bool fixed = !FindForm(form.screen())->remembers_place;
+      const QSize usual = fixed ? QSize() : QSize(1280, 700);
+      form.window()->resize(form.window()->sizeHint().expandedTo(usual));
       Take(form, "");
     }
     form.screen().Close();

@@ -11,12 +11,12 @@ namespace {
 using catalogues::FrmItemsDatabase;
 
 const TableLook kColumns = {.columns = {{"ItemID", "ID", 4, true},
-                                        {"ItemName", "Items Name", 18},
+                                        {"ItemName", "Items Name", 24},
                                         {"SellingPrice", "Price", 9, true},
                                         {"SuppliersName", "Suppliers Name", 14}},
                             .wide = "ItemName",
                             .name = "Accessories",
-                            .empty = "No accessories yet. Add New begins one."};
+                            .empty = "None found, or none yet. Add New begins one."};
 
 // A text of the screen over several lines, gone while it is empty.
 Piece Note(Builder& build, Label& label, QPalette::ColorRole role) {
@@ -54,10 +54,8 @@ void BuildAccessoriesForm(Form& form, FrmItemsDatabase& screen) {
       {.list = kColumns,
        .record = [&screen](Builder& build) { return Record(build, screen); },
        .use = {&screen.CmdUse, &screen.CmdUseItems, &screen.Command3},
-       .below_list =
-           [&screen](Builder& build) { return build.Column(QuickListPieces(build, screen.Quick)); }});
-  // Room for buying prices and the quick list, which come later.
-  form.window()->resize(Digits(112), Quarters(136));
+       .below_list = [&screen](Builder& build) { return build.Column(QuickListPieces(build, screen.Quick)); },
+       .usual_category = kColumns.wide});
 }
 
 }  // namespace tarvane::desktop

@@ -19,6 +19,8 @@ struct CataloguePieces {
   // Below the list, and beside the buttons that add and save; may be empty.
   std::function<Piece(Builder&)> below_list = {};
   std::vector<Button*> more = {};
+  // What a text is looked for in that is typed before a category was chosen; "": the window sees to it.
+  std::string_view usual_category = {};
 };
 
 // Search on top, the list at the left, the record at the right (below in a narrow window), the buttons below.

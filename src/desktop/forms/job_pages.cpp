@@ -85,6 +85,7 @@ Piece SinglesPage(Builder& build, app::MainScreen& screen) {
                                          {"Total", "", 10, true}},
                              .wide = "Description",
                              .name = "Single items",
+                             .empty = "No single items yet. Add Item begins one.",
                              .insert = &screen.CmdRooms[0],
                              .remove = &screen.CmdRooms[2]};
   Pieces buttons;

@@ -11,6 +11,9 @@ namespace {
 
 using catalogues::PlanGrid;
 
+constexpr int kUsualWidth = 130;   // digits
+constexpr int kUsualHeight = 150;  // quarters
+
 std::string_view Heading(PlanGrid::Column column) {
   return PlanGrid::kHeadings[static_cast<std::size_t>(column)];
 }
@@ -61,11 +64,11 @@ void BuildPriceListForm(Form& form, catalogues::FrmPriceList& screen) {
   const Piece take = build.Press(screen.CmdTakeOver, true);
 
   FillDialog(form,
-             {build.Row({open, file.Grow()}), heading, Folding(build, {left.Grow(), right.Grow()}),
-              build.Flow({only, Builder::Spring(), counts}), table.Grow(),
-              build.Flow({leave_out, Builder::Spring(), messages}), build.Rule(),
-              build.Flow({Builder::Spring(), close, take})},
-             &screen.CmdClose);
+             {build.Row({open, file.Grow()}),
+              {heading, Folding(build, {left.Grow(), right.Grow()}),
+               build.Flow({only, Builder::Spring(), counts}), table.Grow()},
+              {leave_out, Builder::Spring(), messages, Builder::Spring(), close, take}},
+             &screen.CmdClose, {Digits(kUsualWidth), Quarters(kUsualHeight)});
   SayWhyOff(form, screen.CmdTakeOver,
             "There is nothing to take over, or some lines are wrong: tick that they are left out.");
 }

@@ -9,7 +9,7 @@ const TableLook kColumns = {.columns = {{"Reference", "", 14},
                                         {"LabourPrice", "Labour", 7, true}},
                             .wide = "Description",
                             .name = "Prices of curtain styles",
-                            .empty = "No prices of curtain styles yet. Add begins one."};
+                            .empty = "None found, or none yet. Add begins one."};
 
 // Only read: Add and Update lead to where it is typed.
 Piece Record(Builder& build, curtain_wizard::FrmPopUp1& screen) {
@@ -41,7 +41,8 @@ void BuildPricingForm(Form& form, curtain_wizard::FrmPopUp1& screen) {
                 {.list = kColumns,
                  .record = [&screen](Builder& build) { return Record(build, screen); },
                  .use = {&screen.CmdUse},
-                 .more = {&screen.CmdHelp}});
+                 .more = {&screen.CmdHelp},
+                 .usual_category = kColumns.wide});
 }
 
 }  // namespace tarvane::desktop

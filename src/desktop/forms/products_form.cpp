@@ -13,13 +13,12 @@ namespace {
 
 using catalogues::FrmFabricDatabase2;
 
-const TableLook kColumns = {.columns = {{"ProductID", "Record ID", 9, true},
-                                        {"ProductName", "Product Name", 18},
+const TableLook kColumns = {.columns = {{"ProductID", "ID", 5, true},
+                                        {"ProductName", "Product Name", 24},
                                         {"SellingPrice", "Price", 8, true},
-                                        {"AmountInStock", "In Stock", 8, true},
-                                        {"SuppliersName", "Suppliers Name", 16},
-                                        {"ItemCode", "Item Code", 10},
-                                        {"Category", "", 10}},
+                                        {"AmountInStock", "In Stock", 7, true},
+                                        {"SuppliersName", "Suppliers Name", 15},
+                                        {"ItemCode", "Item Code", 10}},
                             .wide = "ProductName",
                             .name = "Products",
                             .empty = "None found, or none yet. Add New begins one."};
@@ -38,15 +37,14 @@ Piece Bars(Form& form, FrmFabricDatabase2& screen) {
 }
 
 Piece Record(Builder& build, FrmFabricDatabase2& screen) {
-  const Look wide{.width = 26};
   const Look number{.width = 10, .number = true};
   const Piece record = build.Column({
       build.Fields({{"Record ID", {{screen.ProductID, {.width = 8, .number = true}}}},
                     {"Category", {{screen.Category, {.width = 18}}}},
-                    {"Suppliers Name", {{screen.SuppliersName, wide}}},
-                    {"Product Name", {{screen.ProductName, wide}}},
+                    {"Suppliers Name", {{screen.SuppliersName, {}}}},
+                    {"Product Name", {{screen.ProductName, {}}}},
                     {"Item Code", {{screen.ItemCode, {.width = 18}}}},
-                    {"Description", {{screen.Description, wide}}},
+                    {"Description", {{screen.Description, {}}}},
                     {"Batch/Shelf Num", {{screen.BatchNo, {.width = 18}}}},
                     {"Bar Code", {{screen.BarCode, {.width = 18}}, {screen.CmdGenBarCode}}}}),
       Bars(build.form(), screen),

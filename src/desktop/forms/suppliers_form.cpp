@@ -10,7 +10,7 @@ const TableLook kColumns = {.columns = {{"SuppliersID", "ID", 5, true},
                                         {"ContactName", "Contact", 14}},
                             .wide = "SuppliersName",
                             .name = "Suppliers",
-                            .empty = "No suppliers yet. Add New begins one."};
+                            .empty = "None found, or none yet. Add New begins one."};
 
 Piece Record(Builder& build, catalogues::frmSuppliers2& screen) {
   const Look wide{.width = 30};
@@ -40,7 +40,9 @@ Piece Record(Builder& build, catalogues::frmSuppliers2& screen) {
 
 void BuildSuppliersForm(Form& form, catalogues::frmSuppliers2& screen) {
   FillCatalogue(form, screen,
-                {.list = kColumns, .record = [&screen](Builder& build) { return Record(build, screen); }});
+                {.list = kColumns,
+                 .record = [&screen](Builder& build) { return Record(build, screen); },
+                 .usual_category = kColumns.wide});
 }
 
 }  // namespace tarvane::desktop

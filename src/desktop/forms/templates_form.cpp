@@ -13,16 +13,13 @@ namespace {
 
 using blinds::FrmBlindsTemplates;
 
-constexpr int kWidth = 150;   // digits
-constexpr int kHeight = 160;  // quarters
-
 const TableLook kColumns = {.columns = {{"ItemID", "ID", 6, true},
                                         {"Description", "Description", 24},
-                                        {"Info1", "Info 1", 24},
-                                        {"SellingPrice", "Selling Price", 13, true}},
+                                        {"SellingPrice", "Selling Price", 13, true},
+                                        {"Info1", "Info 1", 24}},
                             .wide = "Description",
                             .name = "Templates",
-                            .empty = "No templates yet. Add New begins one."};
+                            .empty = "None found, or none yet. Add New begins one."};
 
 Piece Record(Builder& build, FrmBlindsTemplates& screen) {
   const Look money{.width = 10, .number = true};
@@ -43,13 +40,14 @@ Piece Record(Builder& build, FrmBlindsTemplates& screen) {
 
 // The quick list; and where a template can go into a room, whose that is, and what it costs.
 Piece BelowList(Builder& build, FrmBlindsTemplates& screen) {
-  const Piece quick = build.List(screen.Quick.lstTitles);
-  build.Name(screen.Quick.lstTitles, "Quick list");
-  Pieces pieces = {build.Row({build.Press(screen.Quick.Command1), Builder::Spring()}), quick};
+  Pieces pieces = QuickListPieces(build, screen.Quick);
   if (screen.CmdUse.shown()) {
-    for (const auto tell : {catalogues::WhoseRooms, catalogues::WhatItemsLose}) {
-      pieces.push_back(FollowingText(build, [&screen, tell] { return tell(screen.job()); }));
-      qobject_cast<QLabel*>(pieces.back().widget)->setWordWrap(true);
+    for (const auto& [tell, role] : {std::pair(&catalogues::WhoseRooms, QPalette::PlaceholderText),
+                                     std::pair(&catalogues::WhatItemsLose, QPalette::LinkVisited)}) {
+      pieces.push_back(FollowingText(build, [&screen, tell = tell] { return tell(screen.job()); }));
+      auto* text = qobject_cast<QLabel*>(pieces.back().widget);
+      text->setWordWrap(true);
+      text->setForegroundRole(role);
     }
   }
   return build.Column(pieces, 1);
@@ -62,9 +60,8 @@ void BuildTemplatesForm(Form& form, FrmBlindsTemplates& screen) {
                 {.list = kColumns,
                  .record = [&screen](Builder& build) { return Record(build, screen); },
                  .use = {&screen.Command3, &screen.CmdUse, &screen.CmdUseItems},
-                 .below_list = [&screen](Builder& build) { return BelowList(build, screen); }});
-  // List and record side by side.
-  form.window()->resize(Digits(kWidth), Quarters(kHeight));
+                 .below_list = [&screen](Builder& build) { return BelowList(build, screen); },
+                 .usual_category = kColumns.wide});
 }
 
 }  // namespace tarvane::desktop
