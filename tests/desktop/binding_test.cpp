@@ -7,6 +7,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTableView>
 
@@ -195,6 +196,19 @@ TEST_F(TableTest, ReadsOnlyTheRowsInView) {
     EXPECT_LE(grid.reads, rows_in_view * 4 * 4) << "a few looks at each cell in view, none at others";
     grid.reads = 0;
   }
+}
+
+// After a search that finds little nothing is left to scroll.
+TEST_F(TableTest, ScrollsAsFarAsThereAreRows) {
+  CountingGrid grid(&screen_);
+  ShownForm shown(screen_);
+  shown.window.resize(600, 400);
+  shown.Show({shown.build.Table(grid)});
+  const auto* table = shown.WidgetOf<QTableView>(grid);
+  EXPECT_GT(table->verticalScrollBar()->maximum(), CountingGrid::kRows / 2);
+  grid.SetRows({{"a"}, {"b"}});
+  Settle();
+  EXPECT_EQ(table->verticalScrollBar()->maximum(), 0);
 }
 
 TEST_F(TableTest, SelectsAndOpensRows) {
