@@ -92,6 +92,8 @@ void Catalogue::TellFound(std::int64_t count) {
   const std::string found = std::to_string(count) + " matches found.";
   Messages.SetCaption(found);
   Message(found);
+  // What was found is looked through, and taken with Enter.
+  if (count > 0) SetFocus(MSFlexGrid1);
 }
 
 void Catalogue::OpenFor(Button& use) {
