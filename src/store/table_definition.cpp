@@ -48,7 +48,8 @@ std::optional<std::int64_t> VersionOf(const std::filesystem::path& file) {
   constexpr std::size_t kApplicationAt = 68;
   std::array<char, 100> head{};
   std::ifstream in(file, std::ios::binary);
-  if (!in.read(head.data(), head.size()) || std::string_view(head.data()) != kBegin) return std::nullopt;
+  if (!in.read(head.data(), head.size())) return std::nullopt;
+  if (!std::string_view(head.data(), head.size()).starts_with(kBegin)) return std::nullopt;
   const auto number = [&head](std::size_t at) {
     std::int64_t value = 0;
     for (std::size_t i = at; i < at + 4; ++i) value = value * 256 + static_cast<unsigned char>(head.at(i));
