@@ -99,10 +99,8 @@ void FrmBlindsTemplates::SetDefaults() {
   }
 }
 
-// What goes out of the catalogue is what stands in it.
 void FrmBlindsTemplates::CommitForUse() {
-  if (!Data1.HasRow()) throw Fault("There is no template to use. Add one first.");
-  Data1.Leave();
+  if (!LeaveForUse()) throw Fault("There is no template to use. Add one first.");
 }
 
 void FrmBlindsTemplates::PutTemplateIntoRoom() {

@@ -97,14 +97,8 @@ std::string FrmItemsDatabase::PickedText() const {
   return SuppliersName.text() + " " + ItemName.text() + " " + ItemCode.text();
 }
 
-// What is handed over is what stands in the table.
 void FrmItemsDatabase::CommitPicked() {
-  RowSet& rows = Data1.rows();
-  const bool adding = Data1.HasRow() && rows.IsAdding();
-  const std::int64_t before = rows.RecordCount();
-  Data1.Leave();
-  if (adding && rows.RecordCount() == before) throw Fault("Nothing has been entered for the new accessory.");
-  if (!Data1.HasRow()) throw Fault("There is no accessory. Add one first.");
+  if (!LeaveForUse()) throw Fault("There is no accessory. Add one first.");
 }
 
 void FrmItemsDatabase::PutIntoJob() {

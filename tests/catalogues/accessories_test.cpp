@@ -174,7 +174,7 @@ TEST_F(AccessoriesTest, BuyPriceIsHiddenUntilAskedFor) {
     EXPECT_EQ(screen.Records.Caption.caption(), "Record: 4");
     EXPECT_EQ(screen.focus(), &screen.SuppliersName);
     screen.CmdUse.UserPress();
-    EXPECT_THAT(host_.messages.back(), HasSubstr("Nothing has been entered"));
+    EXPECT_THAT(host_.messages.back(), HasSubstr("There is no accessory. Add one first."));
     EXPECT_EQ(screen.Records.Caption.caption(), "Accessory Record: 1/3") << "and the new one is gone";
 
     screen.CmdFabAdd.UserPress();
