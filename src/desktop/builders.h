@@ -106,6 +106,9 @@ class Builder {
   Piece Text(Label& label, bool quiet = false);
   Piece List(ListBox& list);
   Piece Month(Calendar& calendar);
+  Piece Rich(RichTextBox& box);
+  Piece Page(PageView& view);
+  Piece Slide(Slider& slider);
   // The position in a table, between the buttons that move there; Alt+Left and Alt+Right step as well.
   Piece Records(RecordBar& bar);
   // Category, text and buttons in a row, or in two where there is no room for that.

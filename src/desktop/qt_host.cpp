@@ -446,7 +446,21 @@ QPrinter& QtHost::Printer() {
   return *printer_;
 }
 
-void QtHost::PrintPages(const std::vector<PrintedPage>& pages) { PrintOn(Printer(), pages); }
+paper::Measure& QtHost::TextMeasure() { return measure_; }
+
+paper::Paper QtHost::PrinterPaper() { return {}; }
+
+bool QtHost::Print(const paper::Pages&, const PrintOrder&) { throw Fault("No printer is set up."); }
+
+std::optional<paper::Font> QtHost::ChooseFont(const paper::Font&) { return std::nullopt; }
+
+std::string QtHost::SavePdf(const paper::Pages&, const std::filesystem::path&, std::string_view) {
+  return "";
+}
+
+std::unique_ptr<paper::PagePicture> QtHost::MakePagePicture(const paper::Paper&) { return nullptr; }
+
+void QtHost::SendMail(std::string_view, std::string_view, const std::filesystem::path&) {}
 
 void QtHost::SetUpPrinter() { AskForPrinter(Printer(), TopWindow()); }
 

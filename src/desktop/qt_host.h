@@ -8,6 +8,7 @@
 
 #include "desktop/form.h"
 #include "desktop/progress_window.h"
+#include "paper/metric_measure.h"
 #include "screen/host.h"
 
 class QPrinter;
@@ -45,8 +46,16 @@ class QtHost : public Host {
   std::string ClipboardText() override;
   void SetClipboardText(std::string_view text) override;
   void Launch(std::string_view target) override;
-  void PrintPages(const std::vector<PrintedPage>& pages) override;
+  paper::Measure& TextMeasure() override;
+  paper::Paper PrinterPaper() override;
+  bool Print(const paper::Pages& pages, const PrintOrder& order) override;
   void SetUpPrinter() override;
+  std::optional<paper::Font> ChooseFont(const paper::Font& font) override;
+  std::string SavePdf(const paper::Pages& pages, const std::filesystem::path& file,
+                      std::string_view title) override;
+  std::unique_ptr<paper::PagePicture> MakePagePicture(const paper::Paper& paper) override;
+  void SendMail(std::string_view address, std::string_view subject,
+                const std::filesystem::path& attachment) override;
   [[noreturn]] void EndProcess() override;
 
   enum class Keep { kSave, kDrop, kCancel };
@@ -70,6 +79,7 @@ class QtHost : public Host {
   void AddTextSizeKeys(QWidget* window);
   void ChangeTextSize(int points);
   QPrinter& Printer();
+  paper::MetricMeasure measure_{""};
 
   std::vector<Form*> forms_;
   std::function<void(Form&)> on_shown_;

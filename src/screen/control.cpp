@@ -109,6 +109,12 @@ void OptionButton::UserClick() {
   });
 }
 
+void TabStrip::SetCaptions(std::vector<std::string> captions) {
+  captions_ = std::move(captions);
+  selected_ = 0;
+  Notify(Aspect::kEntries);
+}
+
 void TabStrip::Select(int tab) {
   if (tab == selected_ || tab < 0 || tab >= static_cast<int>(captions_.size())) return;
   selected_ = tab;

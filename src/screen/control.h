@@ -27,8 +27,12 @@ class Grid;
 class HeldGrid;
 class TableGrid;
 class Calendar;
-using ControlKind = std::variant<Panel*, Label*, Button*, TickBox*, OptionButton*, TabStrip*, TextField*,
-                                 DropDownList*, ListBox*, Grid*, HeldGrid*, TableGrid*, Calendar*>;
+class RichTextBox;
+class PageView;
+class Slider;
+using ControlKind =
+    std::variant<Panel*, Label*, Button*, TickBox*, OptionButton*, TabStrip*, TextField*, DropDownList*,
+                 ListBox*, Grid*, HeldGrid*, TableGrid*, Calendar*, RichTextBox*, PageView*, Slider*>;
 
 // Where a control stands: on its screen, or on a panel of it.
 struct Home {
@@ -227,6 +231,7 @@ class TabStrip : public Control {
       : Control(home, std::move(name)), captions_(std::move(captions)) {}
   ControlKind kind_of() override { return this; }
   const std::vector<std::string>& captions() const { return captions_; }
+  void SetCaptions(std::vector<std::string> captions);  // the first one is selected, without rules
   int selected() const { return selected_; }
   // Runs the rules where another tab becomes the selected one.
   void Select(int tab);

@@ -2,11 +2,14 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "paper/page_picture.h"
+#include "paper/surface.h"
 #include "text/day.h"
 
 namespace tarvane {
@@ -26,13 +29,11 @@ struct Question {
 
 enum class FileChoice { kOpen, kSave };
 
-// A page for the printer: lines of pieces, each at a column of characters from 0.
-struct PrintedPiece {
-  int column = 0;
-  std::string text;
+struct PrintOrder {
+  std::string title;  // of the job in the printer's queue
+  int copies = 1;
+  bool ask = true;  // the worker chooses printer, pages and copies first
 };
-using PrintedLine = std::vector<PrintedPiece>;
-using PrintedPage = std::vector<PrintedLine>;
 
 // What screens need from outside. Texts are UTF-8; line ends in messages are "\n" or "\r\n".
 class Host {
@@ -77,11 +78,33 @@ class Host {
   // Hands a file, an address or a program ("calc") to the platform. Faults where it can't.
   virtual void Launch(std::string_view target) = 0;
 
-  virtual void PrintPages(const std::vector<PrintedPage>& pages) = 0;
+  // How large texts are on paper, on the screen and in PDF files.
+  virtual paper::Measure& TextMeasure() = 0;
+  // The sheet that the printer is set up for; A4 without a printer.
+  virtual paper::Paper PrinterPaper() = 0;
+  // False where the worker cancels; nothing was printed then. Faults where it can't be printed.
+  virtual bool Print(const paper::Pages& pages, const PrintOrder& order) = 0;
   virtual void SetUpPrinter() = 0;
+  // The font of plain texts, for as long as the program runs.
+  const paper::Font& printer_font() const { return printer_font_; }
+  void SetPrinterFont(paper::Font font) { printer_font_ = std::move(font); }
+  // Nothing where the worker cancels.
+  virtual std::optional<paper::Font> ChooseFont(const paper::Font& font) = 0;
+  // Writes a PDF file, whole or not at all; faults where it can't be written. Gives the characters that
+  // couldn't be shown in it.
+  virtual std::string SavePdf(const paper::Pages& pages, const std::filesystem::path& file,
+                              std::string_view title) = 0;
+  // A blank sheet to draw on at the screen's resolution.
+  virtual std::unique_ptr<paper::PagePicture> MakePagePicture(const paper::Paper& paper) = 0;
+  // Opens a new mail with the file attached in the platform's mail program. Faults where there is none.
+  virtual void SendMail(std::string_view address, std::string_view subject,
+                        const std::filesystem::path& attachment) = 0;
 
   // Ends the process at once; nothing that waits is saved.
   [[noreturn]] virtual void EndProcess() = 0;
+
+ private:
+  paper::Font printer_font_;
 };
 
 }  // namespace tarvane

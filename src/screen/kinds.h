@@ -7,6 +7,8 @@
 #include "screen/control.h"
 #include "screen/field.h"
 #include "screen/grid.h"
+#include "screen/page_view.h"
+#include "screen/rich_text_box.h"
 
 // The one way to treat kinds of control differently.
 namespace tarvane {

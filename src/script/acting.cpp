@@ -49,6 +49,11 @@ void Interpreter::RequireUsable(const Argument& address, const Control& control)
 }
 
 void Interpreter::Type(Arguments arguments) {
+  if (auto* box = As<RichTextBox>(*FindControls(arguments[0], host_.open_screens()).front())) {
+    RequireUsable(arguments[0], *box);
+    if (box->read_only()) throw ScriptError(Place(arguments[0], *box) + " is read-only");
+    return box->UserType(arguments[1].text);
+  }
   auto& field = Usable<TextField>(arguments[0], "a field");
   const auto* list = As<DropDownList>(field);
   if (field.read_only()) throw ScriptError(Place(arguments[0], field) + " is read-only");
@@ -110,6 +115,9 @@ void Interpreter::ChooseEntry(const Argument& address, Control& control, const s
         if (!day)
           throw ScriptError(fmt::format("{} takes a day such as 2026-12-24", Place(address, control)));
         calendar.UserClick(*day);
+      },
+      [&](Slider& slider) {
+        slider.UserMove(static_cast<int>(WholeNumber({text, text, false})));
       },
       [&](Control&) {
         throw ScriptError(fmt::format("{} is {}, not a list, tabs or a calendar", Place(address, control),

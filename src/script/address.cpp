@@ -159,7 +159,9 @@ std::string_view KindOf(const Control& control) {
       [](const Grid&) { return "a grid"; }, [](const OptionButton&) { return "a round option"; },
       [](const TickBox&) { return "a tick box"; }, [](const Button&) { return "a button"; },
       [](const TabStrip&) { return "a row of tabs"; }, [](const Calendar&) { return "a calendar"; },
-      [](const Label&) { return "a label"; }, [](const Panel&) { return "a panel"; });
+      [](const RichTextBox&) { return "a rich text box"; }, [](const PageView&) { return "a page"; },
+      [](const Slider&) { return "a slider"; }, [](const Label&) { return "a label"; },
+      [](const Panel&) { return "a panel"; });
 }
 
 std::vector<Control*> FindControls(const Argument& address, const std::vector<Screen*>& open) {

@@ -17,6 +17,8 @@ namespace {
 constexpr std::chrono::seconds kWaitForFolder{10};
 
 int Run(const tarvane::script::ScriptOptions& options) {
+  tarvane::script::ScriptSettings settings = options.settings;
+  settings.fonts = options.folder / "Fonts";
   std::ifstream file;
   if (options.script) {
     file.open(*options.script, std::ios::binary);
@@ -27,8 +29,8 @@ int Run(const tarvane::script::ScriptOptions& options) {
   const auto lock = tarvane::ShopLock::Take(options.folder, kWaitForFolder);
   if (!lock) throw tarvane::Fault(tarvane::ShopIsOpenText(options.folder));
   std::istream& script = options.script ? file : std::cin;
-  return tarvane::script::RunScript(options.settings, script, options.script.has_value(), std::cout,
-                                    std::cerr, [&options](tarvane::Host& host) {
+  return tarvane::script::RunScript(settings, script, options.script.has_value(), std::cout, std::cerr,
+                                    [&options](tarvane::Host& host) {
                                       tarvane::Shop shop(options.folder);
                                       tarvane::app::MainScreen screen(host, shop);
                                       screen.RunAsMain();

@@ -17,22 +17,13 @@ constexpr std::string_view kAnswerWords[] = {"yes", "no", "ok", "cancel"};
 
 std::string_view Word(Answer answer) { return kAnswerWords[static_cast<std::size_t>(answer)]; }
 
-// Pieces at their columns; one that begins before the last one ends stands behind it.
-std::string SetOut(const PrintedLine& line) {
-  std::string text;
-  for (const PrintedPiece& piece : line) {
-    const auto column = static_cast<std::size_t>(std::max(piece.column, 0));
-    const std::size_t width = CountCharacters(text);
-    if (width < column) text.append(column - width, ' ');
-    text += OnOneLine(piece.text);
-  }
-  return text;
-}
-
 }  // namespace
 
 ScriptHost::ScriptHost(std::ostream& out, const ScriptSettings& settings)
-    : out_(out), now_(settings.now), dice_(settings.seed ? *settings.seed : std::random_device{}()) {}
+    : WindowlessHost(settings.fonts),
+      out_(out),
+      now_(settings.now),
+      dice_(settings.seed ? *settings.seed : std::random_device{}()) {}
 
 void ScriptHost::Tell(std::string_view line) { out_ << line << std::endl; }
 
@@ -106,12 +97,11 @@ void ScriptHost::Launch(std::string_view target) {
   Tell(fmt::format("launched {}", InQuotes(target)));
 }
 
-void ScriptHost::PrintPages(const std::vector<PrintedPage>& pages) {
-  for (const PrintedPage& page : pages) {
-    NumberedPage& printed = printed_.emplace_back();
-    printed.number = ++pages_;
-    std::ranges::transform(page, std::back_inserter(printed.lines), SetOut);
-  }
+void ScriptHost::PagePrinted(const paper::RecordedPage& page, double left) {
+  NumberedPage& printed = printed_.emplace_back();
+  printed.number = ++pages_;
+  std::ranges::transform(paper::LinesOf(page, left), std::back_inserter(printed.lines),
+                         [](const std::string& line) { return OnOneLine(line); });
 }
 
 void ScriptHost::EndProcess() { throw ProcessEnd(); }

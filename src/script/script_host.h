@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <filesystem>
 #include <functional>
 #include <optional>
 #include <ostream>
@@ -11,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-#include "screen/host.h"
+#include "screen/windowless_host.h"
 
 namespace tarvane::script {
 
@@ -19,10 +20,11 @@ namespace tarvane::script {
 struct ScriptSettings {
   std::optional<DateTime> now;        // nothing: the machine's clock
   std::optional<std::uint32_t> seed;  // nothing: another one each time
+  std::filesystem::path fonts;        // the folder of font metric files
 };
 
 // The host of a program without a window: it prints what the program says and answers from a queue.
-class ScriptHost : public Host {
+class ScriptHost : public WindowlessHost {
  public:
   // `out` must outlive the host; every line on it is flushed.
   ScriptHost(std::ostream& out, const ScriptSettings& settings);
@@ -64,9 +66,10 @@ class ScriptHost : public Host {
   std::string ClipboardText() override { return clipboard_; }
   void SetClipboardText(std::string_view text) override { clipboard_ = text; }
   void Launch(std::string_view target) override;
-  void PrintPages(const std::vector<PrintedPage>& pages) override;
-  void SetUpPrinter() override {}
   [[noreturn]] void EndProcess() override;
+
+ protected:
+  void PagePrinted(const paper::RecordedPage& page, double left) override;
 
  private:
   // A text, or nothing for "cancel".

@@ -37,6 +37,9 @@ std::string ValueOf(const Control& control) {
       [](const TabStrip& tabs) {
         return tabs.captions().empty() ? "" : tabs.captions().at(static_cast<std::size_t>(tabs.selected()));
       },
+      [](const RichTextBox& box) { return box.PlainText(); },
+      [](const PageView& view) { return fmt::format("{}", view.pages() != nullptr ? view.page() + 1 : 0); },
+      [](const Slider& slider) { return fmt::format("{}", slider.value()); },
       [](const Calendar& calendar) { return IsoDate(calendar.day()); },
       [](const Control& other) { return other.caption(); });
 }

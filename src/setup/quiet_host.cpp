@@ -45,7 +45,7 @@ std::optional<std::filesystem::path> QuietHost::ChooseFile(FileChoice, std::stri
 
 void QuietHost::Launch(std::string_view target) { throw Fault(fmt::format("{} cannot be opened.", target)); }
 
-void QuietHost::PrintPages(const std::vector<PrintedPage>&) { throw Fault("There is no printer."); }
+void QuietHost::PagePrinted(const paper::RecordedPage&, double) { throw Fault("There is no printer."); }
 
 void QuietHost::EndProcess() { throw Fault("The program has been ended."); }
 

@@ -7,15 +7,17 @@
 #include <string_view>
 #include <utility>
 
-#include "screen/host.h"
+#include "screen/windowless_host.h"
 
 namespace tarvane::setup {
 
 // A host for a program that runs by itself: each screen that is shown is served by the function that waits
 // for it, and each input gets the reply that was put in for it. Information is passed over; what would need a
 // person (a question, a warning, a file choice) is a Fault.
-class QuietHost : public Host {
+class QuietHost : public WindowlessHost {
  public:
+  QuietHost() : WindowlessHost({}) {}
+
   using Worker = std::function<void(Screen&)>;
 
   // Serves the next showing of the screen of that name; a former one for it is replaced.
@@ -41,9 +43,10 @@ class QuietHost : public Host {
   std::string ClipboardText() override { return {}; }
   void SetClipboardText(std::string_view) override {}
   void Launch(std::string_view target) override;
-  void PrintPages(const std::vector<PrintedPage>& pages) override;
-  void SetUpPrinter() override {}
   [[noreturn]] void EndProcess() override;
+
+ protected:
+  void PagePrinted(const paper::RecordedPage& page, double left) override;
 
  private:
   std::map<std::string, Worker, std::less<>> workers_;

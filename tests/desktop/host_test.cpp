@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QLabel>
-#include <QPrinter>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <algorithm>
@@ -11,7 +10,6 @@
 #include <iterator>
 
 #include "desktop/form_table.h"
-#include "desktop/page_printer.h"
 #include "desktop/program.h"
 #include "desktop/readers.h"
 #include "desktop/shop_check.h"
@@ -45,19 +43,6 @@ TEST(HostTest, WhatNobodyCanShowOrOpenIsAFault) {
   EXPECT_THROW(host.Launch("no such thing"), Fault);
   host.SetClipboardText("Brontë £5\r\n");
   EXPECT_EQ(host.ClipboardText(), "Brontë £5\r\n");
-}
-
-TEST(PagePrinterTest, PrintsEachPageOnASheet) {
-  const QTemporaryDir folder;
-  QPrinter printer;
-  printer.setOutputFormat(QPrinter::PdfFormat);
-  printer.setOutputFileName(folder.filePath("pages.pdf"));
-  PrintOn(printer, {{{{0, "Track"}, {40, "254"}}, {}, {{0, std::string(200, 'w')}}}, {{{0, "second"}}}});
-  QFile file(folder.filePath("pages.pdf"));
-  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-  const QByteArray bytes = file.readAll();
-  EXPECT_TRUE(bytes.startsWith("%PDF-"));
-  EXPECT_TRUE(bytes.contains("/Count 2"));
 }
 
 TEST(ProgramTest, ReadsItsCommandLine) {

@@ -106,19 +106,19 @@ TEST(Commands, MessagesAndAnswers) {
 
 TEST(Commands, PrintedPagesAreNumberedFromTheStart) {
   EXPECT_EQ(
-      Transcript("printed\ntype Measure print\npress Command1[1]\nexpect-printed \"ab   clate\"\n"
+      Transcript("printed\ntype Measure print\npress Command1[1]\nexpect-printed \"ab   c late\"\n"
                  "expect-printed \" \xC2\xA3 x\"\nprinted\nprinted\npress Command1[1]\nprinted"),
-      "page 1\n| ab   clate\n| \npage 2\n|  \xC2\xA3 x\npage 3\n| ab   clate\n| \npage 4\n|  \xC2\xA3 x\n");
+      "page 1\n| ab   c late\n| \npage 2\n|  \xC2\xA3 x\npage 3\n| ab   c late\n| \npage 4\n|  \xC2\xA3 x\n");
 }
 
 TEST(Commands, ClockAndDiceAreFixed) {
-  const ScriptSettings settings = {DateTime{MakeDay(2026, 5, 4), 9, 30, 7}, 1};
+  const ScriptSettings settings = {DateTime{MakeDay(2026, 5, 4), 9, 30, 7}, 1, {}};
   EXPECT_EQ(Transcript("type Measure clock\npress Command1[1]\nshow Log", settings),
             "Log = \"04/05/2026 9:7\"\n");
   const std::string dice = "type Measure dice\npress Command1[1]\nshow Log";
   const std::string rolled = Transcript(dice, settings);
   EXPECT_EQ(rolled, Transcript(dice, settings));
-  EXPECT_NE(rolled, Transcript(dice, {std::nullopt, 2}));
+  EXPECT_NE(rolled, Transcript(dice, {std::nullopt, 2, {}}));
   EXPECT_NE(rolled.find_first_of("13579"), std::string::npos);
 }
 

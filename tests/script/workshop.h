@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "paper/recorder.h"
+#include "paper/text_rows.h"
 #include "screen/field.h"
 #include "screen/grid.h"
 #include "screen/screen.h"
@@ -113,7 +115,18 @@ class Workshop : public Screen {
 
   // What the button "Add more" does is told by the field.
   void Act(const std::string& what);
+  void PrintTwoPages();
 };
+
+inline void Workshop::PrintTwoPages() {
+  const paper::Font font{.name = "Courier"};
+  paper::Recorder recorder(host().TextMeasure(), host().PrinterPaper());
+  const paper::Point corner{recorder.paper().unprintable.left, 30};
+  paper::DrawRows(recorder, font, corner, {{{0, "ab"}, {5, "c"}, {3, "late"}}, {}});
+  recorder.NewPage();
+  paper::DrawRows(recorder, font, corner, {{{1, "\xC2\xA3"}, {3, "x"}}});
+  host().Print(paper::RecordedPages(recorder.pages(), recorder.paper()), {});
+}
 
 inline void Workshop::Act(const std::string& what) {
   if (what == "ask") {
@@ -125,7 +138,7 @@ inline void Workshop::Act(const std::string& what) {
   } else if (what == "file") {
     Log.LoadText(host().ChooseFile(FileChoice::kOpen, "Open Link", "", "").value_or("none").string());
   } else if (what == "print") {
-    host().PrintPages({{{{0, "ab"}, {5, "c"}, {3, "late"}}, {}}, {{{1, "\xC2\xA3"}, {3, "x"}}}});
+    PrintTwoPages();
   } else if (what == "clip") {
     host().SetClipboardText("copied text");
     host().Launch("mailto:a@b.c");

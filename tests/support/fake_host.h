@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "screen/screen.h"
+#include "screen/windowless_host.h"
 
 namespace tarvane {
 
@@ -17,8 +18,10 @@ struct ProcessEnd {};
 
 // A host without a worker: it records what the program says and answers from queues. A question, an input box
 // or a file choice without a waiting answer is an error that ends the test.
-class FakeHost : public Host {
+class FakeHost : public WindowlessHost {
  public:
+  FakeHost() : WindowlessHost(TARVANE_DATA_DIR "/Fonts") {}
+
   // What to do with each screen that is shown, in turn. After its step a screen is closed, unasked; one
   // without a step at once.
   std::deque<std::function<void(Screen&)>> shows;
@@ -37,7 +40,10 @@ class FakeHost : public Host {
   std::vector<std::int64_t> steps;  // of ShowProgress
   int steps_until_stop = -1;        // none left: the worker stops; -1: never
   int progress_ends = 0;
-  std::vector<PrintedPage> printed;
+  std::vector<std::vector<std::string>> printed;  // the lines of each page
+  std::string print_fault;                        // what printing faults with; "": it works
+  bool print_cancelled = false;                   // the worker cancels the printer's dialog
+  std::vector<PrintOrder> print_orders;
   std::string clipboard;
   DateTime now = {MakeDay(2026, 3, 9), 14, 5, 0};
   int beeps = 0;
@@ -98,11 +104,18 @@ class FakeHost : public Host {
     return steps_until_stop < 0 || steps_until_stop-- > 0;
   }
   void EndProgress() override { ++progress_ends; }
-  void PrintPages(const std::vector<PrintedPage>& pages) override {
-    printed.insert(printed.end(), pages.begin(), pages.end());
+  bool Print(const paper::Pages& pages, const PrintOrder& order) override {
+    print_orders.push_back(order);
+    if (!print_fault.empty()) throw Fault(print_fault);
+    return !print_cancelled && WindowlessHost::Print(pages, order);
   }
   void SetUpPrinter() override { ++printer_setups; }
   [[noreturn]] void EndProcess() override { throw ProcessEnd{}; }
+
+ protected:
+  void PagePrinted(const paper::RecordedPage& page, double left) override {
+    printed.push_back(paper::LinesOf(page, left));
+  }
 
  private:
   template <typename T>

@@ -4,15 +4,17 @@
 #include <functional>
 #include <utility>
 
-#include "screen/host.h"
 #include "screen/screen.h"
+#include "screen/windowless_host.h"
 
 namespace tarvane {
 
 // A host for programs that only count time or look for crashes: it says yes to every question, has no input
 // to give, and runs `step` on the screen that is shown.
-class SilentHost : public Host {
+class SilentHost : public WindowlessHost {
  public:
+  SilentHost() : WindowlessHost({}) {}
+
   std::function<void(Screen&)> step;
 
   void RunModal(Screen& screen) override {
@@ -35,9 +37,10 @@ class SilentHost : public Host {
   std::string ClipboardText() override { return {}; }
   void SetClipboardText(std::string_view) override {}
   void Launch(std::string_view) override {}
-  void PrintPages(const std::vector<PrintedPage>&) override {}
-  void SetUpPrinter() override {}
   [[noreturn]] void EndProcess() override { std::abort(); }
+
+ protected:
+  void PagePrinted(const paper::RecordedPage&, double) override {}
 };
 
 }  // namespace tarvane
