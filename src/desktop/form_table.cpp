@@ -6,6 +6,7 @@
 
 #include "app/show.h"
 #include "desktop/forms/forms.h"
+#include "printing/multi_page_preview.h"
 
 namespace tarvane::desktop {
 namespace {
@@ -46,6 +47,26 @@ void ShowItem(MainScreen& main) {
 }
 
 void ShowNewItem(MainScreen& main) { main.AddBlind(); }
+
+// A report of three pages, as it would come up.
+void ShowSampleReport(MainScreen& main) {
+  constexpr int kPages = 3;
+  printing::clsMultiPgPreview report(main);
+  report.SetSendToPrinter(false);
+  report.pStartDoc();
+  for (int page = 1; page <= kPages; ++page) {
+    if (page > 1) report.pNewPage();
+    report.pHeader("Curtains and blinds of the month", "Sample report");
+    for (const char* text : {"Pencil pleat curtains, lined", "Roman blind", "Pelmet with piping"}) {
+      report.pBullet(0.3);
+      report.pPrint(text, -1, false);
+      report.pDots(6);
+      report.pRightTab(std::to_string(page) + " made");
+    }
+    report.pFooter("Sample");
+  }
+  report.pEndDoc();
+}
 
 bool Waits(const DataSource& source) { return source.rows().IsOpen() && source.rows().IsEditing(); }
 
@@ -134,6 +155,7 @@ const std::array kForms = {
     Row<FrmSimgleItem, BuildSingleItemForm>("single-item", kCentred),
     Row<blinds::WizardNewBlinds, BuildBlindWizardForm>("item-wizard", kPlaced, ShowNewItem),
     Row<blinds::FrmBlindsTemplates, BuildTemplatesForm>("templates", kPlaced),
+    Row<printing::frmMultiPgPreview, BuildPageBrowserForm>("page-browser", kPlaced, ShowSampleReport),
 };
 
 }  // namespace

@@ -1,7 +1,7 @@
 #include "screen/windowless_host.h"
 
+#include "paper/bitmap_page.h"
 #include "paper/pdf_file.h"
-#include "text/fault.h"
 
 namespace tarvane {
 
@@ -21,8 +21,8 @@ std::string WindowlessHost::SavePdf(const paper::Pages& pages, const std::filesy
   return paper::WritePdf(pages, file, {std::string(title), fonts_, [this] { return Now(); }});
 }
 
-std::unique_ptr<paper::PagePicture> WindowlessHost::MakePagePicture(const paper::Paper&) {
-  throw Fault("No picture can be made of a page here.");
+std::unique_ptr<paper::PagePicture> WindowlessHost::MakePagePicture(const paper::Paper& paper) {
+  return std::make_unique<paper::BitmapPage>(measure_, paper);
 }
 
 void WindowlessHost::SendMail(std::string_view address, std::string_view subject,
