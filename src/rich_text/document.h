@@ -10,6 +10,10 @@ namespace tarvane::rich_text {
 
 inline constexpr int kTwipsPerInch = 1440;
 inline constexpr int kTwipsPerPoint = 20;
+inline constexpr int kLongest = 1'000'000;  // twips; no length is further from 0
+inline constexpr int kLargestHalfPoints = 3'276;
+inline constexpr std::size_t kMostTabStops = 64;
+inline constexpr std::size_t kMostCells = 256;                    // of a row
 inline constexpr std::string_view kPictureSign = "\xEF\xBF\xBC";  // U+FFFC: stands in the text for a picture
 
 struct Color {
@@ -93,13 +97,17 @@ struct Picture {
 };
 
 // A text with its looks. Places in it are byte offsets into `text`. What holds always:
-// - text is valid UTF-8 without the character 0, and shorter than 4 GiB. "\n" ends a paragraph, and the last
-//   one has none, so that there is one paragraph more than "\n". U+2028 ends a line within a paragraph.
+// - text is valid UTF-8 without control characters but tab and "\n", and shorter than 4 GiB. "\n" ends a
+//   paragraph, and the last one has none, so that there is one paragraph more than "\n". U+2028 ends a line
+//   within a paragraph.
 // - runs: the first begins at 0, the others follow in order, each within the text; no two neighbours look
 //   alike. An empty text has one, which tells what is typed into it.
 // - paragraphs: as the text tells; those of a table row stand together.
 // - pictures: as many as kPictureSign in the text, in that order.
+// - rows: named by paragraphs in their order, each with a cell or more; right edges of cells never go back.
 // - fonts and paragraph_styles: never empty; whoever names one of them names one that is there.
+// - lengths are at most kLongest, tab stops by place, one at a place, at most kMostTabStops; letters are at
+//   least half a point and at most kLargestHalfPoints high.
 struct Document {
   std::string text;
   std::vector<Run> runs{Run{}};
@@ -122,11 +130,15 @@ struct Document {
   std::uint16_t FontNumber(std::string_view name);
 };
 
+// Whether all of that holds.
+bool IsSound(const Document& document);
+
 // Whether they look alike to a reader: order and number of fonts and styles don't count.
 bool SameContent(const Document& one, const Document& other);
 
 // Text without looks. CR LF, CR and LF each end a paragraph, a form feed begins a page with the paragraph
-// behind it; other control characters but the tab are left out, and what is no UTF-8 becomes U+FFFD.
+// behind it, U+2028 ends a line. Other control characters but the tab are left out. What is no UTF-8 becomes
+// U+FFFD, and so does the sign of a picture, for there is none.
 Document FromPlainText(std::string_view text, const CharStyle& style = {}, std::string_view font = "Arial");
 // The text with CR LF between paragraphs and lines. Cells of a row are kept apart by tabs, pictures left out.
 std::string PlainText(const Document& document);

@@ -18,8 +18,9 @@ Document ReadRtf(std::string_view bytes);
 // same document.
 std::string WriteRtf(const Document& document);
 
-// `text` (UTF-8) so that it can stand amid raw RTF: braces, backslashes and characters beyond ASCII escaped,
-// line ends as \line.
+// `text` (UTF-8) so that it can stand anywhere amid raw RTF: a group in which braces, backslashes and
+// characters beyond ASCII are escaped and line ends are \line. What is no UTF-8 becomes U+FFFD, control
+// characters but the tab are left out.
 std::string EscapeForRtf(std::string_view text);
 
 }  // namespace tarvane::rich_text
