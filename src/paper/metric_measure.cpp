@@ -3,9 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "pdf/text_encoding.h"
+#include "paper/standard_text.h"
 #include "text/fault.h"
-#include "text/utf8.h"
 
 namespace tarvane::paper {
 namespace {
@@ -22,8 +21,7 @@ constexpr Family kMono = {"Courier", "Courier-Bold", "Courier-Oblique", "Courier
 constexpr Family kSigns = {"Symbol", "Symbol", "Symbol", "Symbol", 1.01, 0.293};
 
 const Family& FamilyOf(const std::string& name) {
-  static constexpr std::array<std::pair<std::string_view, const Family*>, 12> kWords = {{
-      {"symbol", &kSigns},
+  static constexpr std::array<std::pair<std::string_view, const Family*>, 11> kWords = {{
       {"sans", &kSans},
       {"courier", &kMono},
       {"mono", &kMono},
@@ -39,6 +37,7 @@ const Family& FamilyOf(const std::string& name) {
   std::string folded = name;
   std::ranges::transform(folded, folded.begin(),
                          [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
+  if (folded == "symbol") return kSigns;
   for (const auto& [word, family] : kWords) {
     if (folded.find(word) != std::string::npos) return *family;
   }
@@ -69,11 +68,52 @@ Extent MetricMeasure::ExtentOf(const Font& font) {
 }
 
 double MetricMeasure::WidthOf(const Font& font, std::string_view text) {
-  try {
-    return static_cast<double>(fonts_.Widths(StandardFontOf(font)).SumOfText(text)) * font.points / 1000;
-  } catch (const Fault&) {
-    return static_cast<double>(CountCharacters(text)) * font.points / 2;
+  const Widths& widths = WidthsOf(font);
+  std::int64_t sum = 0;
+  unsigned char bits = 0;
+  for (const char c : text) {
+    bits |= static_cast<unsigned char>(c);
+    sum += widths[static_cast<unsigned char>(c)];
   }
+  if (bits >= 0x80) {
+    sum = 0;
+    for (const char code : StandardCodes(text)) sum += widths[static_cast<unsigned char>(code)];
+  }
+  return static_cast<double>(sum) * font.points / 1000;
+}
+
+const MetricMeasure::Widths& MetricMeasure::WidthsOf(const Font& font) {
+  const auto same = [&](const Known& known) {
+    return known.widths != nullptr && known.bold == font.bold && known.italic == font.italic &&
+           known.name == font.name;
+  };
+  if (same(known_[last_])) return *known_[last_].widths;
+  const auto found = std::ranges::find_if(known_, same);
+  if (found != known_.end()) {
+    last_ = static_cast<std::size_t>(found - known_.begin());
+  } else {
+    last_ = next_;
+    next_ = (next_ + 1) % known_.size();
+    known_[last_] = {font.name, font.bold, font.italic, &Read(StandardFontOf(font))};
+  }
+  return *known_[last_].widths;
+}
+
+const MetricMeasure::Widths& MetricMeasure::Read(std::string_view standard_font) {
+  const auto [entry, is_new] = widths_.try_emplace(standard_font);
+  Widths& widths = entry->second;
+  if (!is_new) return widths;
+  static constexpr std::int32_t kHalf = 500;
+  std::fill(widths.begin() + ' ', widths.end(), kHalf);
+  try {
+    const pdf::WidthTable& table = fonts_.Widths(standard_font);
+    for (int code = ' '; code <= 0xFF; ++code) {
+      widths[static_cast<std::size_t>(code)] = static_cast<std::int32_t>(table.At(code));
+    }
+  } catch (const Fault&) {
+    // A measure is better than none.
+  }
+  return widths;
 }
 
 }  // namespace tarvane::paper

@@ -15,6 +15,7 @@ struct RecordedText {
   TextLook look;
   std::string text;
   double column_width = 0;  // of its font
+  double width = 0;         // of the text as it stands
 };
 struct RecordedShape {
   enum class Kind { kLine, kBox, kEllipse, kPicture };
@@ -48,9 +49,13 @@ class Recorder : public Surface {
   void DrawPicture(const Picture& picture, const Area& area) override;
 
  private:
+  double ColumnOf(const Font& font);
+
   Measure& measure_;
   Paper paper_;
   std::vector<RecordedPage> pages_;
+  Font column_font_;  // what column_width_ belongs to
+  double column_width_ = -1;
 };
 
 // What was recorded, to be printed or looked at.
@@ -67,8 +72,9 @@ class RecordedPages : public Pages {
   Paper paper_;
 };
 
-// The texts of a page as lines from the top down, pieces set out at columns of their own font's width,
-// counted from `left` (points). A piece that begins before the last one ends stands behind it.
+// The texts of a page as lines from the top down, without blanks at their ends. Pieces that adjoin make one
+// text; others are set out at columns of their own font's width, counted from `left` (points), or stand a
+// blank behind the one before where that reaches beyond.
 std::vector<std::string> LinesOf(const RecordedPage& page, double left);
 
 }  // namespace tarvane::paper

@@ -1,45 +1,78 @@
 #include "paper/rich_text_pages.h"
 
-namespace tarvane::paper {
+#include <algorithm>
+#include <cmath>
 
-Place FormatPage(const rich_text::Document& document, Measure& measure, const Area& area, Place from,
-                 Surface* surface) {
-  const Font font;
-  const Extent extent = measure.ExtentOf(font);
-  double y = area.top;
-  std::size_t paragraph = document.ParagraphAt(from.text);
-  const std::size_t first = paragraph;
-  for (; paragraph < document.paragraphs.size(); ++paragraph) {
-    if (paragraph > first && y + extent.height() > area.bottom) {
-      return {document.paragraphs[paragraph].begin};
-    }
-    const std::size_t begin = document.paragraphs[paragraph].begin;
-    if (surface != nullptr) {
-      surface->DrawText(
-          {area.left, y + extent.ascent}, font,
-          std::string_view(document.text).substr(begin, document.ParagraphEnd(paragraph) - begin));
-    }
-    y += extent.height();
+#include "paper/page_layout.h"
+
+namespace tarvane::paper {
+namespace {
+
+constexpr double kLeastArea = 36;
+constexpr double kLeastPaper = 72;
+constexpr double kFarthest = 100'000;
+
+double Finite(double place) { return std::isfinite(place) ? std::clamp(place, -kFarthest, kFarthest) : 0; }
+
+Area FiniteArea(const Area& area) {
+  return {Finite(area.left), Finite(area.top), Finite(area.right), Finite(area.bottom)};
+}
+
+struct Range {
+  double begin;
+  double end;
+};
+
+Range TextRange(double length, double before, double behind) {
+  const double begin = Finite(before);
+  const double end = Finite(length) - Finite(behind);
+  if (end - begin >= kLeastArea) return {begin, end};
+  return {0, std::max(Finite(length), kLeastPaper)};
+}
+
+Area TextArea(const Paper& paper, const Edges& margins) {
+  const Range across = TextRange(paper.size.width, margins.left, margins.right);
+  const Range down = TextRange(paper.size.height, margins.top, margins.bottom);
+  return {across.begin, down.begin, across.end, down.end};
+}
+
+std::vector<std::uint32_t> PicturePlaces(const rich_text::Document& document) {
+  std::vector<std::uint32_t> places;
+  if (document.pictures.empty()) return places;
+  for (std::size_t at = 0; (at = document.text.find(rich_text::kPictureSign, at)) != std::string::npos;) {
+    places.push_back(static_cast<std::uint32_t>(at));
+    at += rich_text::kPictureSign.size();
   }
-  return {document.text.size()};
+  return places;
+}
+
+}  // namespace
+
+Place FormatPage(const rich_text::Document& document, Measure& measure, const Area& area, const Place& from,
+                 Surface* surface) {
+  const std::vector<std::uint32_t> pictures = PicturePlaces(document);
+  FontLooks looks(document, measure);
+  return PageLayout(document, looks, pictures, FiniteArea(area), surface).LayOut(from);
 }
 
 RichTextPages::RichTextPages(const rich_text::Document& document, Measure& measure, const Paper& paper,
                              const Edges& margins)
-    : document_(document), measure_(measure), paper_(paper), margins_(margins), begins_(1) {
-  for (Place place; (place = FormatPage(document, measure, TextArea(), begins_.back(), nullptr)).text <
-                    document.text.size();) {
-    begins_.push_back(place);
+    : document_(document),
+      looks_(document, measure),
+      paper_(paper),
+      area_(TextArea(paper, margins)),
+      pictures_(PicturePlaces(document)),
+      begins_(1) {
+  PageLayout layout(document, looks_, pictures_, area_, nullptr);
+  for (Place next = layout.LayOut(begins_.back()); next.text < document.text.size();
+       next = layout.LayOut(begins_.back())) {
+    begins_.push_back(std::move(next));
   }
 }
 
-Area RichTextPages::TextArea() const {
-  return {margins_.left, margins_.top, paper_.size.width - margins_.right,
-          paper_.size.height - margins_.bottom};
-}
-
 void RichTextPages::Draw(int page, Surface& surface) const {
-  FormatPage(document_, measure_, TextArea(), begins_.at(static_cast<std::size_t>(page)), &surface);
+  PageLayout(document_, looks_, pictures_, area_, &surface)
+      .LayOut(begins_.at(static_cast<std::size_t>(page)));
 }
 
 }  // namespace tarvane::paper

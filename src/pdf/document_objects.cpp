@@ -97,9 +97,14 @@ void WriteImages(ObjectFile& file, const DocumentParts& parts) {
   for (const Image& image : parts.images) {
     LineBuffer head;
     head.Line(file.NextNumber(), " 0 obj").Line("<</Type /XObject").Line("/Subtype /Image");
-    head.Line("/Filter [/DCTDecode ]").Line("/Width ", image.info.width).Line("/Height ", image.info.height);
-    head.Line("/ColorSpace /", image.info.color_space)
-        .Line("/BitsPerComponent ", image.info.bits_per_component);
+    head.Line("/Filter [/", image.pixels.empty() ? "DCTDecode" : "FlateDecode", " ]");
+    head.Line("/Width ", image.info.width).Line("/Height ", image.info.height);
+    if (image.pixels.empty()) {
+      head.Line("/ColorSpace /", image.info.color_space);
+    } else {
+      head.Line(image.pixels);
+    }
+    head.Line("/BitsPerComponent ", image.info.bits_per_component);
     head.Line("/Length ", image.bytes.size()).Line("/Name /ImgJPEG", ++place, ">>").Line("stream");
     LineBuffer tail;
     tail.Line().Line("endstream").Line("endobj");

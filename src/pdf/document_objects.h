@@ -41,9 +41,13 @@ struct Page {
   std::vector<Link> links;
 };
 
+// A JPEG file as it is, or pixels that were compressed already (zlib).
 struct Image {
   JpegInfo info;
   std::string bytes;
+  // Of compressed pixels what the file says of them: "/ColorSpace ...", and "/DecodeParms ..." where there
+  // are any. Empty: a JPEG.
+  std::string pixels;
 };
 
 struct Bookmark {

@@ -184,6 +184,8 @@ class tqrPDF {
   double PDFGetStringWidth(std::string_view text, std::string_view font, double size);
   // Degrees, against the clock, for the next text only.
   void PDFSetRotation(double degrees) { pen_.rotation = Sane(degrees); }
+  // So much wider is each blank of the next text only.
+  void PDFSetWiderBlanks(double width) { pen_.wider_blanks = Sane(width, scale_); }
   // At x plus the left margin, and y as the base line; 0 stands for the current place. The current x moves
   // behind the text. A rotated text stands at x itself.
   void PDFTextOut(const std::string& text, double x = 0, double y = 0);
@@ -203,6 +205,10 @@ class tqrPDF {
   // The size of a JPEG file in pixels; 0 for one that is refused, with its message.
   int PDFImageWidth(const std::string& path);
   int PDFImageHeight(const std::string& path);
+  // The same in two steps, for a picture that the caller has read and that may stand in many places: its
+  // number from 1, then as often as wanted that number at a place, stretched to a size.
+  int PDFAddPicture(Image picture);
+  void PDFPlacePicture(int number, double x, double y, double width, double height);
   // Makes the area of the last image a link.
   void PDFLink(const std::string& address);
   // A bookmark to `y` on this page; level 0 is the outermost.
@@ -215,6 +221,7 @@ class tqrPDF {
     double y = 0;
     double line_width = 0.567;
     double rotation = 0;
+    double wider_blanks = 0;
     Rgb draw_rgb{};
     Rgb line_rgb{};
     Rgb text_rgb{};

@@ -135,10 +135,18 @@ void tqrPDF::PDFImage(const std::string& path, double x, double y, double& width
   }
   if (width == 0) width = image.info.width * height / image.info.height;
   if (height == 0) height = image.info.height * width / image.info.width;
-  images_.push_back(std::move(image));
+  PDFPlacePicture(PDFAddPicture(std::move(image)), x, y, width, height);
+}
+
+int tqrPDF::PDFAddPicture(Image picture) {
+  images_.push_back(std::move(picture));
+  return static_cast<int>(images_.size());
+}
+
+void tqrPDF::PDFPlacePicture(int number, double x, double y, double width, double height) {
   page_.Line(kImageMarker.open).Line("q");
   page_.Line(Fixed{Length(width)}, " 0 0 ", Fixed{Length(height)}, " ", Fixed{PointsX(x)}, " ",
-             Fixed{PointsY(y + height)}, " cm /ImgJPEG", images_.size(), " Do Q");
+             Fixed{PointsY(y + height)}, " cm /ImgJPEG", number, " Do Q");
   page_.Line(kImageMarker.close);
   last_image_ = {PointsX(x), PointsY(y + height), PointsX(x + width), PointsY(y)};
 }

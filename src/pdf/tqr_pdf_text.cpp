@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 #include "pdf/markers.h"
 #include "pdf/text_encoding.h"
@@ -59,10 +60,12 @@ void tqrPDF::PDFTextOut(const std::string& text, double x, double y) {
   const std::string codes = ToWinAnsi(text);
   const auto width = [&] { return PointsOf(fonts_.Widths(FontInUse()).Sum(codes), pen_.font_size) / scale_; };
   // What can't be measured has no font that a reader could find, or no place on a page.
-  if (strict_) width();
+  const double strict_width = strict_ ? width() : 0;
   const double shift = pen_.rotation == 0 ? margins_.left : 0;
+  const double wider = pen_.wider_blanks;
   ShowText(codes, PointsX(x + shift), PointsY(y));
-  pen_.x = x + width();
+  pen_.x = x + (strict_ ? strict_width : width());
+  if (wider != 0) pen_.x += wider * static_cast<double>(std::count(codes.begin(), codes.end(), ' '));
 }
 
 // Writes the text with its base line at x, y in points.
@@ -82,7 +85,10 @@ void tqrPDF::ShowText(std::string_view codes, double x, double y) {
     page_.Line(Fixed{x}, " ", Fixed{y}, " Td");
   }
   page_.Line(FontOperator());
+  const double wider = std::exchange(pen_.wider_blanks, 0);
+  if (wider != 0) page_.Line(Fixed{wider * scale_, Mask::k0_000}, " Tw");
   page_.Line("(", strict_ ? EscapeString(codes) : EscapePageText(codes), ") Tj");
+  if (wider != 0) page_.Line("0 Tw");
   page_.Line("ET");
   if (!pen_.text_color.empty()) page_.Line("Q");
   page_.Line(kTextMarker.close);
