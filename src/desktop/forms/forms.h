@@ -15,6 +15,7 @@
 #include "curtain_wizard/single_item.h"
 #include "curtain_wizard/wizard.h"
 #include "desktop/form.h"
+#include "printing/preview.h"
 #include "tools/enter_sales_person.h"
 #include "tools/list_admin.h"
 #include "tools/options.h"
@@ -38,6 +39,7 @@ void BuildWizardForm(Form& form, curtain_wizard::MainCWizard& wizard);
 void BuildPricingForm(Form& form, curtain_wizard::FrmPopUp1& screen);
 void BuildPricingEntryForm(Form& form, curtain_wizard::FrmPopUp1Options& screen);
 void BuildPleatsForm(Form& form, curtain_wizard::FrmPleats& screen);
+void BuildPreviewForm(Form& form, printing::frmPreview& screen);
 void BuildSingleItemForm(Form& form, curtain_wizard::FrmSimgleItem& screen);
 
 }  // namespace tarvane::desktop
