@@ -90,6 +90,16 @@ struct TableLook {
   Button* remove = nullptr;     // button does, so that the focus stays; null: nothing
 };
 
+// The buttons that lead from page to page and to another zoom; null: none.
+struct PageSteps {
+  Button* first = nullptr;
+  Button* previous = nullptr;
+  Button* next = nullptr;
+  Button* last = nullptr;
+  Button* zoom_in = nullptr;
+  Button* zoom_out = nullptr;
+};
+
 // Makes the widgets of a form out of the controls of its screen, and arranges them. Widgets get the focus in
 // the order in which they are arranged, so arrange as a person reads.
 class Builder {
@@ -107,7 +117,10 @@ class Builder {
   Piece List(ListBox& list);
   Piece Month(Calendar& calendar);
   Piece Rich(RichTextBox& box);
-  Piece Page(PageView& view);
+  // Keys and the wheel press what `steps` names, where it is given.
+  Piece Page(PageView& view, const PageSteps& steps = {});
+  // The pages' tabs as a list, drawn as it is looked at.
+  Piece PageStrip(TabStrip& tabs);
   Piece Slide(Slider& slider);
   // The position in a table, between the buttons that move there; Alt+Left and Alt+Right step as well.
   Piece Records(RecordBar& bar);

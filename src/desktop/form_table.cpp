@@ -68,6 +68,16 @@ void ShowSampleReport(MainScreen& main) {
   report.pEndDoc();
 }
 
+// Over a letter of its own.
+void ShowPreview(MainScreen& main) {
+  const rich_text::Document letter = rich_text::FromPlainText(
+      "Dear Mrs Abernethy,\n\nThank you for letting us measure your windows. The curtains of the first room "
+      "are"
+      " told below, those of the second on the next page.\n\nBay, three windows: ivory voile, lined.\n"
+      "\fDoor: pinch pleats, moss stripe.\n\nYours sincerely,\nThe workroom");
+  printing::PreviewRichText(main, letter, printing::kPreviewMargins, {});
+}
+
 bool Waits(const DataSource& source) { return source.rows().IsOpen() && source.rows().IsEditing(); }
 
 // A job that isn't open can't have been typed into.
@@ -156,6 +166,7 @@ const std::array kForms = {
     Row<blinds::WizardNewBlinds, BuildBlindWizardForm>("item-wizard", kPlaced, ShowNewItem),
     Row<blinds::FrmBlindsTemplates, BuildTemplatesForm>("templates", kPlaced),
     Row<printing::frmMultiPgPreview, BuildPageBrowserForm>("page-browser", kPlaced, ShowSampleReport),
+    Row<printing::frmPreview, BuildPreviewForm>("preview", kPlaced, ShowPreview),
 };
 
 }  // namespace

@@ -11,7 +11,6 @@
 #include <QHeaderView>
 #include <QInputDialog>
 #include <QMessageBox>
-#include <QPrinter>
 #include <QProcess>
 #include <QPushButton>
 #include <QRandomGenerator>
@@ -440,29 +439,6 @@ void QtHost::Launch(std::string_view target) {
     throw Fault("Nothing here can open \"" + std::string(target) + "\".");
   }
 }
-
-QPrinter& QtHost::Printer() {
-  if (!printer_) printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
-  return *printer_;
-}
-
-paper::Measure& QtHost::TextMeasure() { return measure_; }
-
-paper::Paper QtHost::PrinterPaper() { return {}; }
-
-bool QtHost::Print(const paper::Pages&, const PrintOrder&) { throw Fault("No printer is set up."); }
-
-std::optional<paper::Font> QtHost::ChooseFont(const paper::Font&) { return std::nullopt; }
-
-std::string QtHost::SavePdf(const paper::Pages&, const std::filesystem::path&, std::string_view) {
-  return "";
-}
-
-std::unique_ptr<paper::PagePicture> QtHost::MakePagePicture(const paper::Paper&) { return nullptr; }
-
-void QtHost::SendMail(std::string_view, std::string_view, const std::filesystem::path&) {}
-
-void QtHost::SetUpPrinter() { AskForPrinter(Printer(), TopWindow()); }
 
 void QtHost::EndProcess() {
   for (const Form* form : forms_) KeepPlace(*form);

@@ -8,13 +8,14 @@
 
 #include "desktop/form.h"
 #include "desktop/progress_window.h"
-#include "paper/metric_measure.h"
 #include "screen/host.h"
 
-class QPrinter;
 class QWidget;
 
 namespace tarvane::desktop {
+
+class PagePrinter;
+struct PaperTools;
 
 // Shows screens as windows, each by its form, and gives them what they need of the platform.
 class QtHost : public Host {
@@ -78,12 +79,13 @@ class QtHost : public Host {
   void KeepPlace(const Form& form) const;
   void AddTextSizeKeys(QWidget* window);
   void ChangeTextSize(int points);
-  QPrinter& Printer();
-  paper::MetricMeasure measure_{""};
+  PaperTools& Tools();
+  PagePrinter& Printer();
 
   std::vector<Form*> forms_;
   std::function<void(Form&)> on_shown_;
-  std::unique_ptr<QPrinter> printer_;
+  std::shared_ptr<PaperTools> tools_;  // null until they are needed
+  std::unique_ptr<PagePrinter> printer_;
   std::unique_ptr<ProgressWindow> progress_;  // null while nothing long runs
   QObject log_out_;                           // ends the watch for a log-out with the host
   bool remembers_ = false;

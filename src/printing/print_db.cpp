@@ -9,12 +9,13 @@ namespace tarvane::printing {
 FrmPrintDB::FrmPrintDB(Host& host, Shop& shop) : Screen(host, std::string(kName)), shop_(shop) {
   TxtTab.SetNeverShown();
   CmdPreviewPrint.OnClicked([this] {
-    PreviewRichText(*this, RichTextBox1.document(), kPreviewMargins,
-                    {.caption = std::string(kPrintLetter), .print = [this] { PrintLetter(); }, .name = {}});
+    PreviewRichText(
+        *this, RichTextBox1.document(), kPreviewMargins,
+        {.caption = std::string(kPrintLetter), .print = [this] { return PrintLetter(); }, .name = {}});
   });
 }
 
-void FrmPrintDB::PrintLetter() { PrintRichText(*this, RichTextBox1.document(), kLetterMargins, {}); }
+bool FrmPrintDB::PrintLetter() { return PrintRichText(*this, RichTextBox1.document(), kLetterMargins, {}); }
 
 void ShowInPrintDB(Screen& opener, Shop& shop, rich_text::Document text) {
   FrmPrintDB screen(opener.host(), shop);

@@ -20,8 +20,8 @@ class FrmPrintDB : public Screen {
   RichTextBox RichTextBox1{this, "RichTextBox1"};
   Button CmdPreviewPrint{this, "CmdPreviewPrint", "&Preview and Print"};
 
-  // PrintLetter_Click of the main screen: margins of an inch.
-  void PrintLetter();
+  // PrintLetter_Click of the main screen: margins of an inch. False where the worker cancels.
+  bool PrintLetter();
 
  private:
   Shop& shop_;

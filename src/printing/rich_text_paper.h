@@ -25,8 +25,9 @@ inline constexpr std::string_view kPrintLetter = "Print Letter";
 // What the preview's print button says and does.
 struct PreviewButton {
   std::string caption = "&Print";
-  std::function<void()> print;  // only where the caption is "Print Letter"; may be null
-  std::string name;             // suggested for a PDF file, without its ending; "": "letter"
+  // Only where the caption is "Print Letter"; may be null. False where the worker cancelled it.
+  std::function<bool()> print;
+  std::string name;  // suggested for a PDF file, without its ending; "": "letter"
 };
 
 // Shows the pages of the text, on the sheet that the printer is set up for, above `opener`. The text must

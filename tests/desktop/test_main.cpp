@@ -11,6 +11,8 @@
 // One application for all tests, on no display, with settings of its own.
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  // No test is to find a printer, wherever it runs.
+  qputenv("CUPS_SERVER", "/nowhere");
   // That platform has no say in the size of windows, and tells so of each of them.
   qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) {
     if (!text.contains("propagateSizeHints")) std::cerr << text.toStdString() << "\n";

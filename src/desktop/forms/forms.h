@@ -16,6 +16,7 @@
 #include "curtain_wizard/wizard.h"
 #include "desktop/form.h"
 #include "printing/page_browser.h"
+#include "printing/preview.h"
 #include "tools/enter_sales_person.h"
 #include "tools/list_admin.h"
 #include "tools/options.h"
@@ -39,6 +40,7 @@ void BuildWizardForm(Form& form, curtain_wizard::MainCWizard& wizard);
 void BuildPricingForm(Form& form, curtain_wizard::FrmPopUp1& screen);
 void BuildPricingEntryForm(Form& form, curtain_wizard::FrmPopUp1Options& screen);
 void BuildPleatsForm(Form& form, curtain_wizard::FrmPleats& screen);
+void BuildPreviewForm(Form& form, printing::frmPreview& screen);
 void BuildSingleItemForm(Form& form, curtain_wizard::FrmSimgleItem& screen);
 void BuildPageBrowserForm(Form& form, printing::frmMultiPgPreview& screen);
 
