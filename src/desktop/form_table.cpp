@@ -47,6 +47,13 @@ void ShowItem(MainScreen& main) {
 
 void ShowNewItem(MainScreen& main) { main.AddBlind(); }
 
+void ShowLetter(MainScreen& main) {
+  printing::ShowTextInPrintDB(main, main.shop(),
+                              "Dear Mrs Blake,\n\nyour curtains are ready. They can be fitted on Tuesday the "
+                              "14th of April, between nine and ten in the morning.\n\nYours sincerely,\n\n\n"
+                              "Tarvane Curtains and Blinds\n");
+}
+
 bool Waits(const DataSource& source) { return source.rows().IsOpen() && source.rows().IsEditing(); }
 
 // A job that isn't open can't have been typed into.
@@ -79,6 +86,11 @@ std::string Unsaved(blinds::WizardNewBlinds& wizard) {
 }
 void Save(blinds::WizardNewBlinds& wizard) {
   (wizard.CmdFinishTwo.visible() ? wizard.CmdFinishTwo : wizard.CmdUpdateAndClose).Press();
+}
+
+std::string Unsaved(printing::FrmPrintDB& letter) { return letter.Unsaved(); }
+void Save(printing::FrmPrintDB& letter) {
+  if (!letter.SaveText()) throw Fault("The text isn't saved.");
 }
 
 template <typename Shown>
@@ -134,6 +146,7 @@ const std::array kForms = {
     Row<FrmSimgleItem, BuildSingleItemForm>("single-item", kCentred),
     Row<blinds::WizardNewBlinds, BuildBlindWizardForm>("item-wizard", kPlaced, ShowNewItem),
     Row<blinds::FrmBlindsTemplates, BuildTemplatesForm>("templates", kPlaced),
+    Row<printing::FrmPrintDB, BuildPrintDbForm>("letter", kPlaced, ShowLetter),
 };
 
 }  // namespace

@@ -15,6 +15,7 @@
 #include "curtain_wizard/single_item.h"
 #include "curtain_wizard/wizard.h"
 #include "desktop/form.h"
+#include "printing/print_db.h"
 #include "tools/enter_sales_person.h"
 #include "tools/list_admin.h"
 #include "tools/options.h"
@@ -39,5 +40,6 @@ void BuildPricingForm(Form& form, curtain_wizard::FrmPopUp1& screen);
 void BuildPricingEntryForm(Form& form, curtain_wizard::FrmPopUp1Options& screen);
 void BuildPleatsForm(Form& form, curtain_wizard::FrmPleats& screen);
 void BuildSingleItemForm(Form& form, curtain_wizard::FrmSimgleItem& screen);
+void BuildPrintDbForm(Form& form, printing::FrmPrintDB& screen);
 
 }  // namespace tarvane::desktop
