@@ -78,6 +78,13 @@ void ShowPreview(MainScreen& main) {
   printing::PreviewRichText(main, letter, printing::kPreviewMargins, {});
 }
 
+void ShowLetter(MainScreen& main) {
+  printing::ShowTextInPrintDB(main, main.shop(),
+                              "Dear Mrs Blake,\n\nyour curtains are ready. They can be fitted on Tuesday the "
+                              "14th of April, between nine and ten in the morning.\n\nYours sincerely,\n\n\n"
+                              "Tarvane Curtains and Blinds\n");
+}
+
 bool Waits(const DataSource& source) { return source.rows().IsOpen() && source.rows().IsEditing(); }
 
 // A job that isn't open can't have been typed into.
@@ -110,6 +117,11 @@ std::string Unsaved(blinds::WizardNewBlinds& wizard) {
 }
 void Save(blinds::WizardNewBlinds& wizard) {
   (wizard.CmdFinishTwo.visible() ? wizard.CmdFinishTwo : wizard.CmdUpdateAndClose).Press();
+}
+
+std::string Unsaved(printing::FrmPrintDB& letter) { return letter.Unsaved(); }
+void Save(printing::FrmPrintDB& letter) {
+  if (!letter.SaveText()) throw Fault("The text isn't saved.");
 }
 
 template <typename Shown>
@@ -167,6 +179,7 @@ const std::array kForms = {
     Row<blinds::FrmBlindsTemplates, BuildTemplatesForm>("templates", kPlaced),
     Row<printing::frmMultiPgPreview, BuildPageBrowserForm>("page-browser", kPlaced, ShowSampleReport),
     Row<printing::frmPreview, BuildPreviewForm>("preview", kPlaced, ShowPreview),
+    Row<printing::FrmPrintDB, BuildPrintDbForm>("letter", kPlaced, ShowLetter),
 };
 
 }  // namespace

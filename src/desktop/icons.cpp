@@ -150,8 +150,67 @@ void Pricing(const Pen& pen) {
 void Previous(const Pen& pen) { pen.Stroke(Lines({{15, 5}, {8, 12}, {15, 19}})); }
 void Next(const Pen& pen) { pen.Stroke(Lines({{9, 5}, {16, 12}, {9, 19}})); }
 
+void OpenFolder(const Pen& pen) {
+  pen.Stroke(Lines({{3, 20}, {3, 4}, {9, 4}, {11, 7}, {19, 7}, {19, 10}}));
+  pen.Stroke(Lines({{3, 20}, {7, 11}, {22, 11}, {18, 20}, {3, 20}}), true);
+}
+
+void CopySheets(const Pen& pen) {
+  pen.Stroke(Lines({{5, 16}, {3, 16}, {3, 3}, {14, 3}, {14, 5}}));
+  pen.Stroke(Box(8, 8, 13, 13), true);
+}
+
+void PasteSheet(const Pen& pen) {
+  pen.Stroke(Lines({{8, 20}, {4, 20}, {4, 5}, {17, 5}, {17, 8}}));
+  pen.Stroke(Box(8, 3, 5, 3.5, 1));
+  pen.Stroke(Box(10, 11, 11, 10), true);
+}
+
+void BoldLetter(const Pen& pen) {
+  QPainterPath bows = Lines({{8, 4}, {8, 20}, {14, 20}});
+  bows.cubicTo(20, 20, 20, 12, 14, 12);
+  bows.lineTo(8, 12);
+  bows.moveTo(8, 4);
+  bows.lineTo(13, 4);
+  bows.cubicTo(18, 4, 18, 12, 13, 12);
+  pen.Stroke(bows, false, 3);
+}
+
+void ItalicLetter(const Pen& pen) {
+  pen.Stroke(Lines({{14, 4}, {10, 20}}));
+  pen.Stroke(Lines({{11, 4}, {17, 4}}));
+  pen.Stroke(Lines({{7, 20}, {13, 20}}));
+}
+
+void UnderlinedLetter(const Pen& pen) {
+  QPainterPath bow = Lines({{7, 3}, {7, 11}});
+  bow.cubicTo(7, 18, 17, 18, 17, 11);
+  bow.lineTo(17, 3);
+  pen.Stroke(bow);
+  pen.Stroke(Lines({{5, 21}, {19, 21}}), true);
+}
+
+void CenteredLines(const Pen& pen) {
+  pen.Stroke(Lines({{4, 5}, {20, 5}}));
+  pen.Stroke(Lines({{8, 10}, {16, 10}}), true);
+  pen.Stroke(Lines({{4, 15}, {20, 15}}));
+  pen.Stroke(Lines({{8, 20}, {16, 20}}), true);
+}
+
+// A letter with what makes it larger or smaller.
+void SizedLetter(const Pen& pen) {
+  pen.Stroke(Lines({{2, 20}, {8, 4}, {14, 20}}));
+  pen.Stroke(Lines({{4.5, 14}, {11.5, 14}}));
+  pen.Stroke(Lines({{16, 7}, {22, 7}}), true);
+}
+
+void LargerLetter(const Pen& pen) {
+  SizedLetter(pen);
+  pen.Stroke(Lines({{19, 4}, {19, 10}}), true);
+}
+
 using DrawIcon = void (*)(const Pen&);
-constexpr std::array<std::pair<std::string_view, DrawIcon>, 16> kIcons = {{
+constexpr std::array<std::pair<std::string_view, DrawIcon>, 27> kIcons = {{
     {"New Record", NewRecord},
     {"Save Records", SaveRecords},
     {"Print", Print},
@@ -168,6 +227,17 @@ constexpr std::array<std::pair<std::string_view, DrawIcon>, 16> kIcons = {{
     {"PricingDatabase", Pricing},
     {"Previous", Previous},
     {"Next", Next},
+    {"New", NewRecord},
+    {"Open", OpenFolder},
+    {"Save", SaveRecords},
+    {"Copy", CopySheets},
+    {"Paste", PasteSheet},
+    {"Bold", BoldLetter},
+    {"Italic", ItalicLetter},
+    {"Underline", UnderlinedLetter},
+    {"Center", CenteredLines},
+    {"FontPlus", LargerLetter},
+    {"FontMinus", SizedLetter},
 }};
 
 // The curtain in white on a coloured ground.

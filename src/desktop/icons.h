@@ -6,7 +6,8 @@
 namespace tarvane::desktop {
 
 // An icon drawn by code in the colours of the palette. Names are those of the toolbar's buttons, "New
-// Record", "Payment" and so on, and "Previous" and "Next"; any other name gives an empty icon.
+// Record", "Payment" and so on, "Previous" and "Next", and those of the rich text screen's tools; any other
+// name gives an empty icon.
 QIcon MakeIcon(std::string_view name);
 
 // The program's own, in colours that stand out on any ground.

@@ -17,6 +17,7 @@
 #include "desktop/form.h"
 #include "printing/page_browser.h"
 #include "printing/preview.h"
+#include "printing/print_db.h"
 #include "tools/enter_sales_person.h"
 #include "tools/list_admin.h"
 #include "tools/options.h"
@@ -43,5 +44,6 @@ void BuildPleatsForm(Form& form, curtain_wizard::FrmPleats& screen);
 void BuildPreviewForm(Form& form, printing::frmPreview& screen);
 void BuildSingleItemForm(Form& form, curtain_wizard::FrmSimgleItem& screen);
 void BuildPageBrowserForm(Form& form, printing::frmMultiPgPreview& screen);
+void BuildPrintDbForm(Form& form, printing::FrmPrintDB& screen);
 
 }  // namespace tarvane::desktop
