@@ -9,6 +9,7 @@
 #include "catalogues/products.h"
 #include "catalogues/suppliers.h"
 #include "curtain_wizard/pricing.h"
+#include "printing/printing_options.h"
 #include "tools/list_admin.h"
 #include "tools/options.h"
 
@@ -51,7 +52,7 @@ const std::vector<Command>& Commands() {
   static const std::vector<Command> kCommands = {
       {kMenu,  "",        "munFile",            -1, "&File", "", kNoAction},
       {kEntry, "munFile", "munNew2",            -1, "Add &New", "", Run<&Main::AddNewJob>},
-      {kEntry, "munFile", "munPrint",           -1, "&Build and Print work sheets", "", kNotBuilt},
+      {kEntry, "munFile", "munPrint",           -1, "&Build and Print work sheets", "", Show<printing::FrmPrinting>},
       {kMenu,  "munFile", "MunQP",              -1, "&Quick Print Options", "", kNoAction},
       {kEntry, "MunQP",   "MunQPE",             -1, "Quick Print Estimate", "", kNotBuilt},
       {kEntry, "MunQP",   "QuickPS",            -1, "Quick Print Statement", "", kNotBuilt},
@@ -108,7 +109,7 @@ const std::vector<Command>& Commands() {
 
       {kTool,  "", "New Record",      -1, "", "Add New Record", Run<&Main::NewRecord>},
       {kTool,  "", "Save Records",    -1, "", "Save Records", Run<&Main::SaveRecord>},
-      {kTool,  "", "Print",           -1, "", "Print Work Sheets", kNotBuilt},
+      {kTool,  "", "Print",           -1, "", "Print Work Sheets", Show<printing::FrmPrinting>},
       {kTool,  "", "Search",          -1, "", "Advanced Search ", kNotBuilt},
       {kTool,  "", "Order",           -1, "", "Make Order", DoNothing},
       {kTool,  "", "Clear",           -1, "", "Clear All Data", ClearData},
@@ -126,7 +127,7 @@ const std::vector<Command>& Commands() {
       {kButton, "", "Command3",             -1, "&Payment F2", "", kNotBuilt},
       {kButton, "", "Command6",             -1, "Quick Print Estimate", "", kNotBuilt},
       {kButton, "", "CmdPrintStatement",    -1, "Quick Print Statement", "", kNotBuilt},
-      {kButton, "", "CmdPrint",             -1, "Print This Record", "", kNotBuilt},
+      {kButton, "", "CmdPrint",             -1, "Print This Record", "", Show<printing::FrmPrinting>},
       {kButton, "", "Command11",            -1, "QUICK SHOP SALES (POS)", "", kNotBuilt},
       {kButton, "", "Command10",            -1, "Pricing Database", "", Show<curtain_wizard::FrmPopUp1>},
       {kButton, "", "CmdCustomersDatabase", -1, "&Customer Database F3", "", kNotBuilt},

@@ -105,6 +105,11 @@ std::string Unsaved(tools::frmOptions& options) {
 }
 void Save(tools::frmOptions& options) { options.cmdOK.Press(); }
 
+std::string Unsaved(printing::FrmPrinting& printing) {
+  return printing.HasUnsavedTexts() ? "the texts of the letters" : "";
+}
+void Save(printing::FrmPrinting& printing) { printing.SaveTexts(); }
+
 std::string Unsaved(FrmPopUp1Options& entry) {
   if (!entry.changed()) return {};
   return "the price of " + (entry.Description.empty() ? "a style without a name" : entry.Description.text());
@@ -150,7 +155,8 @@ constexpr FormEntry Row(std::string_view picture, bool remembers_place,
       .build = [](Form& form) { build(form, dynamic_cast<Shown&>(form.screen())); },
       .show = show,
       .unsaved = nullptr,
-      .closing_saves = std::is_base_of_v<catalogues::Catalogue, Shown>,
+      .closing_saves =
+          std::is_base_of_v<catalogues::Catalogue, Shown> || std::is_same_v<printing::FrmPrinting, Shown>,
       .save = nullptr};
   if constexpr (kKeepsRows<Shown>) {
     entry.unsaved = UnsavedIn<Shown>;
@@ -169,6 +175,7 @@ const std::array kForms = {
     Row<catalogues::FrmItemsDatabase, BuildAccessoriesForm>("accessories", kPlaced),
     Row<catalogues::frmSuppliers2, BuildSuppliersForm>("suppliers", kPlaced),
     Row<catalogues::FrmPriceList, BuildPriceListForm>("price-list", kPlaced),
+    Row<printing::FrmPrinting, BuildPrintingForm>("letters", kPlaced),
     Row<FrmPreferences, BuildPreferencesForm>("preferences", kCentred, ShowOverWizard<FrmPreferences>),
     Row<MainCWizard, BuildWizardForm>("wizard", kPlaced, ShowItem),
     Row<FrmPopUp1, BuildPricingForm>("pricing", kPlaced, ShowOverWizard<FrmPopUp1>),

@@ -48,6 +48,9 @@ Piece Builder::Tabs(TabStrip& tabs, std::function<void(int)> show) {
   bar->setFocusPolicy(Qt::TabFocus);
   bar->setAccessibleName("Pages");
   for (const std::string& caption : tabs.captions()) bar->addTab(ToQt(caption).trimmed().replace("&", "&&"));
+  for (int tab = 0; tab < static_cast<int>(tabs.tips().size()); ++tab) {
+    bar->setTabToolTip(tab, ToQt(tabs.tips()[static_cast<std::size_t>(tab)]));
+  }
   Form& form = *form_;
   bar->asked = [&form, &tabs](int tab) {
     form.ActLater(tabs, [&tabs, tab](Control& control) {

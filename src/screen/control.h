@@ -232,6 +232,9 @@ class TabStrip : public Control {
   ControlKind kind_of() override { return this; }
   const std::vector<std::string>& captions() const { return captions_; }
   void SetCaptions(std::vector<std::string> captions);  // the first one is selected, without rules
+  // Short hints over the tabs, as many as captions; none, or an empty one: no hint.
+  const std::vector<std::string>& tips() const { return tips_; }
+  void SetTips(std::vector<std::string> tips) { tips_ = std::move(tips); }
   int selected() const { return selected_; }
   // Runs the rules where another tab becomes the selected one.
   void Select(int tab);
@@ -242,6 +245,7 @@ class TabStrip : public Control {
 
  private:
   std::vector<std::string> captions_;
+  std::vector<std::string> tips_;
   int selected_ = 0;
   Rules selected_rules_;
   std::function<bool(int)> gate_;

@@ -21,8 +21,9 @@ const std::vector<std::vector<std::string>> kLayers = {
     {"shop"},
     {"listing"},
     {"job"},
+    {"tools"},
     {"printing"},
-    {"catalogues", "tools"},
+    {"catalogues"},
     {"curtain_wizard", "blinds"},
     {"app"},
     {"script", "setup", "desktop"},
@@ -35,9 +36,11 @@ struct OwnedHeader {
 
 // The folders that may include such headers.
 const std::vector<OwnedHeader> kOwnedHeaders = {
-    {std::regex("Q[A-Z].*|Qt.*/.*"), {"desktop"}},     {std::regex("sqlite3.*\\.h"), {"store"}},
-    {std::regex("xlsxwriter.*\\.h"), {"listing"}},     {std::regex("expat\\.h"), {"catalogues"}},
-    {std::regex("zlib\\.h"), {"catalogues", "paper"}},
+    {std::regex("Q[A-Z].*|Qt.*/.*"), {"desktop"}},
+    {std::regex("sqlite3.*\\.h"), {"store"}},
+    {std::regex("xlsxwriter.*\\.h"), {"listing"}},
+    {std::regex("expat\\.h"), {"catalogues"}},
+    {std::regex("zlib\\.h"), {"catalogues", "paper", "printing"}},
 };
 
 struct Include {

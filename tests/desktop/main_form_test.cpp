@@ -176,11 +176,11 @@ TEST_F(MainFormTest, WhatIsToComeIsSeenOnDemandOnly) {
       }
       return names;
     };
-    const auto* print = WidgetOf<QAction>(form, main_.CommandButton("Print"));
+    const auto* payment = WidgetOf<QAction>(form, main_.CommandButton("Payment"));
     for (const bool seen : {false, true, false}) {
       EXPECT_EQ(menus(), seen ? "File Find Data Picture View Tools Reports Windows View Help "
                               : "File Data Windows View Help ");
-      EXPECT_EQ(print->isVisible(), seen);
+      EXPECT_EQ(payment->isVisible(), seen);
       Choose(form, "What is to come");
     }
     Choose(form, "What is to come");

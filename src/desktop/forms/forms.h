@@ -18,6 +18,7 @@
 #include "printing/page_browser.h"
 #include "printing/preview.h"
 #include "printing/print_db.h"
+#include "printing/printing_options.h"
 #include "tools/enter_sales_person.h"
 #include "tools/list_admin.h"
 #include "tools/options.h"
@@ -37,6 +38,7 @@ void BuildSuppliersForm(Form& form, catalogues::frmSuppliers2& screen);
 void BuildPriceListForm(Form& form, catalogues::FrmPriceList& screen);
 void BuildBlindWizardForm(Form& form, blinds::WizardNewBlinds& wizard);
 void BuildTemplatesForm(Form& form, blinds::FrmBlindsTemplates& screen);
+void BuildPrintingForm(Form& form, printing::FrmPrinting& screen);
 void BuildWizardForm(Form& form, curtain_wizard::MainCWizard& wizard);
 void BuildPricingForm(Form& form, curtain_wizard::FrmPopUp1& screen);
 void BuildPricingEntryForm(Form& form, curtain_wizard::FrmPopUp1Options& screen);

@@ -157,6 +157,7 @@ void TidySeparators(Form& form, QToolBar& bar) {
 // Keys of the desktop's own, for what a shop does all day.
 constexpr std::pair<std::string_view, const char*> kKeys[] = {{"munNew2", "Ctrl+N"},
                                                               {"Save Records", "Ctrl+S"},
+                                                              {"munPrint", "Ctrl+P"},
                                                               {"MuuNextRec", "Alt+PgDown"},
                                                               {"MnuPrevRec", "Alt+PgUp"}};
 
