@@ -9,7 +9,9 @@
 #include "catalogues/products.h"
 #include "catalogues/suppliers.h"
 #include "curtain_wizard/pricing.h"
+#include "printing/edit_template.h"
 #include "printing/printing_options.h"
+#include "printing/quick_print.h"
 #include "tools/list_admin.h"
 #include "tools/options.h"
 
@@ -43,6 +45,18 @@ void Show(MainScreen& main) {
   ShowScreen<Shown>(main);
 }
 
+// The letter printer reads which letter from TxtTrack.
+template <char track>
+void QuickPrint(MainScreen& main) {
+  main.TxtTrack.SetText(std::string(1, track));
+  ShowScreen<printing::FrmPrint>(main);
+}
+
+void EditTemplates(MainScreen& main) {
+  main.Message(printing::FrmEditTemp::NoticeText(main.shop()), printing::FrmEditTemp::kNotice);
+  ShowScreen<printing::FrmEditTemp>(main);
+}
+
 using Main = MainScreen;
 
 }  // namespace
@@ -54,8 +68,8 @@ const std::vector<Command>& Commands() {
       {kEntry, "munFile", "munNew2",            -1, "Add &New", "", Run<&Main::AddNewJob>},
       {kEntry, "munFile", "munPrint",           -1, "&Build and Print work sheets", "", Show<printing::FrmPrinting>},
       {kMenu,  "munFile", "MunQP",              -1, "&Quick Print Options", "", kNoAction},
-      {kEntry, "MunQP",   "MunQPE",             -1, "Quick Print Estimate", "", kNotBuilt},
-      {kEntry, "MunQP",   "QuickPS",            -1, "Quick Print Statement", "", kNotBuilt},
+      {kEntry, "MunQP",   "MunQPE",             -1, "Quick Print Estimate", "", QuickPrint<'2'>},
+      {kEntry, "MunQP",   "QuickPS",            -1, "Quick Print Statement", "", QuickPrint<'3'>},
       {kEntry, "munFile", "MunPrinterSetup",    -1, "Printer &Setup", "", SetUpPrinter},
       {kEntry, "munFile", "munexit",            -1, "E&xit", "", Run<&Main::Exit>},
 
@@ -95,7 +109,7 @@ const std::vector<Command>& Commands() {
 
       {kMenu,  "",        "MunReports",         -1, "&Reports", "", kNoAction},
       {kEntry, "MunReports", "MunReportOne",    -1, "Tarvane &Reports ", "", kNotBuilt},
-      {kEntry, "MunReports", "MunEditTemples",  -1, "&Edit Templates", "", kNotBuilt},
+      {kEntry, "MunReports", "MunEditTemples",  -1, "&Edit Templates", "", EditTemplates},
 
       {kMenu,  "",        "MunWindows",         -1, "&Windows", "", kNoAction},
       {kEntry, "MunWindows", "MunCascade",      -1, "&Cascade", "", DoNothing},
@@ -125,8 +139,8 @@ const std::vector<Command>& Commands() {
       {kButton, "", "CmdSize",              -1, "&Close Record", "", Run<&Main::CloseRecord>},
       {kButton, "", "MakePayment",          -1, "Make a Payment", "", kNotBuilt},
       {kButton, "", "Command3",             -1, "&Payment F2", "", kNotBuilt},
-      {kButton, "", "Command6",             -1, "Quick Print Estimate", "", kNotBuilt},
-      {kButton, "", "CmdPrintStatement",    -1, "Quick Print Statement", "", kNotBuilt},
+      {kButton, "", "Command6",             -1, "Quick Print Estimate", "", QuickPrint<'2'>},
+      {kButton, "", "CmdPrintStatement",    -1, "Quick Print Statement", "", QuickPrint<'3'>},
       {kButton, "", "CmdPrint",             -1, "Print This Record", "", Show<printing::FrmPrinting>},
       {kButton, "", "Command11",            -1, "QUICK SHOP SALES (POS)", "", kNotBuilt},
       {kButton, "", "Command10",            -1, "Pricing Database", "", Show<curtain_wizard::FrmPopUp1>},

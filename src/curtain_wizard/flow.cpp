@@ -51,6 +51,7 @@ MainCWizard::MainCWizard(Host& host, Shop& shop, job::JobScreen& job)
   HookCosting();
   HookTrims();
   HookLabour();
+  HookPrinting();
   HookSaving();
   HookPickers();
   HookLists();
@@ -121,6 +122,7 @@ void MainCWizard::Activate() {
   }
   if (TxtViewOnly.text() == "2") {
     CmdFinishTwo.SetVisible(false);
+    PrintMode.SetText("1");
     SetTitle("Quick Curtain Wizard");
   }
 }

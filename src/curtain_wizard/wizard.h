@@ -107,7 +107,7 @@ class MainCWizard : public Screen {
   TextField TxtRow{this, "TxtRow"};            // its row in the room's grid
   TextField TxtViewOnly{this, "TxtViewOnly"};  // "", "1" or "2"
   TextField TxtAdminVat{this, "TxtAdminVat"};
-  TextField PrintMode{this, "PrintMode", "0"};
+  TextField PrintMode{this, "PrintMode", "0"};  // "1" without a job
   TextField TotalInches{this, "TotalInches"};
   TextField TxtMTrack{this, "TxtMTrack"};                      // auto measure factor, "1" for none
   TextField TxtAutoTrack{this, "TxtAutoTrack", "0"};           // track times that factor
@@ -231,8 +231,8 @@ class MainCWizard : public Screen {
   TextField TxtVatRate{&StepPanel[6], "TxtVatRate"};
   TextField TotalCostingVat{&StepPanel[6], "TotalCostingVat", "0.00"};
   TextField GrandTotal{&StepPanel[6], "GrandTotal", "0.00"};
-  Button CmdPrint{&StepPanel[6], "CmdPrint", "&Print With Prices", kNotBuilt};
-  Button Cmdprintwithoutprices{&StepPanel[6], "Cmdprintwithoutprices", "Print &With Out Prices", kNotBuilt};
+  Button CmdPrint{&StepPanel[6], "CmdPrint", "&Print With Prices"};
+  Button Cmdprintwithoutprices{&StepPanel[6], "Cmdprintwithoutprices", "Print &With Out Prices"};
   Button CmdCopy{&StepPanel[6], "CmdCopy", "Copy To Clipboard"};
 
   // ---- List editor and tax rate, in ListPanel ----
@@ -306,7 +306,8 @@ class MainCWizard : public Screen {
   void CostLabour();
   void AddVat();
 
-  // Saving.
+  // Printing and saving.
+  void HookPrinting();
   void HookSaving();
   void ApplyRestored();
   void FinishNew();

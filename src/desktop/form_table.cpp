@@ -27,6 +27,14 @@ void Show(MainScreen& main) {
   app::ShowScreen<Shown>(main);
 }
 
+// With the estimate in it.
+void ShowTemplate(MainScreen& main) {
+  printing::FrmEditTemp screen(main.host(), main.shop());
+  screen.CboTemplates.UserPick(0);
+  screen.CmdLoad.Press();
+  main.ShowModal(screen);
+}
+
 // As the wizard opens it.
 template <typename Shown>
 void ShowOverWizard(MainScreen& main) {
@@ -93,6 +101,13 @@ std::string Unsaved(MainScreen& main) {
   return "the job of " + (main.Name.empty() ? "a customer without a name" : main.Name.text());
 }
 void Save(MainScreen& main) { main.SaveRecord(); }
+
+std::string Unsaved(printing::FrmEditTemp& screen) {
+  return screen.changed() ? "the template " + std::string(screen.letter()) : "";
+}
+void Save(printing::FrmEditTemp& screen) {
+  if (!screen.Save()) throw Fault("The template was not saved.");
+}
 
 std::string Unsaved(catalogues::Catalogue& catalogue) {
   const bool waits = Waits(catalogue.Data1) && !catalogue.Data1.rows().IsUntouched();
@@ -171,6 +186,8 @@ const std::array kForms = {
     Row<tools::frmOptions, BuildOptionsForm>("settings", kPlaced),
     Row<tools::FrmListAdmin, BuildListAdminForm>("option-lists", kPlaced),
     Row<tools::FrmEnterSalesPerson, BuildEnterSalesPersonForm>("sales-person", kCentred),
+    Row<printing::FrmPrint, BuildQuickPrintForm>("quick-print", kPlaced),
+    Row<printing::FrmEditTemp, BuildEditTemplateForm>("edit-templates", kPlaced, ShowTemplate),
     Row<catalogues::FrmFabricDatabase2, BuildProductsForm>("products", kPlaced),
     Row<catalogues::FrmItemsDatabase, BuildAccessoriesForm>("accessories", kPlaced),
     Row<catalogues::frmSuppliers2, BuildSuppliersForm>("suppliers", kPlaced),

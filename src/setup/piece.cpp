@@ -24,8 +24,12 @@ constexpr std::string_view kTextFiles[] = {
     data_file::kCurtainList,   data_file::kTieBacksList,      data_file::kTieBacksStyleList,
     data_file::kTrimmingsList, data_file::kCheckList,         data_file::kSalesPersonsList,
 };
-// Their layout has line ends between the lines only.
-constexpr std::string_view kExactFiles[] = {data_file::kBarcodeSymbols, data_file::kBarcodePatterns};
+// Copied to the byte: of the barcode's tables line ends stand between the lines only, and letters are what a
+// word processor may have written.
+constexpr std::string_view kExactFiles[] = {
+    data_file::kBarcodeSymbols,  data_file::kBarcodePatterns, data_file::kEstimateLetter,
+    data_file::kStatementLetter, data_file::kReminderLetter,  data_file::kReceiptLetter,
+};
 constexpr std::string_view kFontsFolder = "Fonts";
 
 void MakeDatabase(const fs::path& file, std::string_view name, const fs::path& data, bool sample) {

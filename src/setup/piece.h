@@ -14,7 +14,8 @@ struct LaidDownPiece {
   std::function<void(const std::filesystem::path& file)> make;
 };
 
-// Every file that is laid down, in the order in which it is told: databases, settings, lists, fonts. `data`
+// Every file that is laid down, in the order in which it is told: databases, settings, lists,
+// letters, fonts. `data`
 // is read as the pieces are made, apart from the names of the fonts. `sample`: the catalogues are those of
 // the sample shop; else they are empty.
 std::vector<LaidDownPiece> LaidDownPieces(const std::filesystem::path& data, bool sample);

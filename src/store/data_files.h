@@ -26,6 +26,10 @@ inline constexpr std::string_view kTieBacksStyleList = "TieBacksStylelist.Dat";
 inline constexpr std::string_view kTrimmingsList = "Trimmingslist.Dat";
 inline constexpr std::string_view kCheckList = "Checklist.Dat";
 inline constexpr std::string_view kSalesPersonsList = "SalesPersonslist.Dat";
+inline constexpr std::string_view kEstimateLetter = "DefaultEstimate.rtf";
+inline constexpr std::string_view kStatementLetter = "DefaultStatement.rtf";
+inline constexpr std::string_view kReminderLetter = "Defaultreminders.rtf";
+inline constexpr std::string_view kReceiptLetter = "DefaultReceipt.rtf";
 inline constexpr std::string_view kBarcodeSymbols = "char.txt";
 inline constexpr std::string_view kBarcodePatterns = "binary.txt";
 }  // namespace data_file

@@ -55,8 +55,9 @@ TEST(GetInfo, FullItem) {
     EXPECT_EQ(w.ItemTextPriced.text(), kFullPriced);
     EXPECT_EQ(w.ItemTextPlain.text(), JoinLines(FullLines()));
     EXPECT_EQ(w.ItemTextRoom.text(), FullRoom());
-    // There is nothing to print with yet.
-    Play(w, "| totalCostingWiz=300.50 TotalCostingVat=60.10 GrandTotal=360.60 CostingGrid#24 -CmdPrint");
+    Play(w,
+         "| totalCostingWiz=300.50 TotalCostingVat=60.10 GrandTotal=360.60 CostingGrid#24 +CmdPrint "
+         "+Cmdprintwithoutprices");
     const char* const headings[] = {"I-No", "Item", "Description", "Price"};
     for (int column = 0; column < 4; ++column) EXPECT_EQ(w.CostingGrid.Cell(0, column), headings[column]);
     EXPECT_EQ(w.CostingGrid.rows().back(),

@@ -179,7 +179,7 @@ TEST_F(MainFormTest, WhatIsToComeIsSeenOnDemandOnly) {
     const auto* payment = WidgetOf<QAction>(form, main_.CommandButton("Payment"));
     for (const bool seen : {false, true, false}) {
       EXPECT_EQ(menus(), seen ? "File Find Data Picture View Tools Reports Windows View Help "
-                              : "File Data Windows View Help ");
+                              : "File Data Reports Windows View Help ");
       EXPECT_EQ(payment->isVisible(), seen);
       Choose(form, "What is to come");
     }

@@ -15,10 +15,12 @@
 #include "curtain_wizard/single_item.h"
 #include "curtain_wizard/wizard.h"
 #include "desktop/form.h"
+#include "printing/edit_template.h"
 #include "printing/page_browser.h"
 #include "printing/preview.h"
 #include "printing/print_db.h"
 #include "printing/printing_options.h"
+#include "printing/quick_print.h"
 #include "tools/enter_sales_person.h"
 #include "tools/list_admin.h"
 #include "tools/options.h"
@@ -31,6 +33,8 @@ void BuildSplashForm(Form& form, app::frmSplash& screen);
 void BuildOptionsForm(Form& form, tools::frmOptions& screen);
 void BuildListAdminForm(Form& form, tools::FrmListAdmin& screen);
 void BuildEnterSalesPersonForm(Form& form, tools::FrmEnterSalesPerson& screen);
+void BuildQuickPrintForm(Form& form, printing::FrmPrint& screen);
+void BuildEditTemplateForm(Form& form, printing::FrmEditTemp& screen);
 void BuildPreferencesForm(Form& form, curtain_wizard::FrmPreferences& screen);
 void BuildProductsForm(Form& form, catalogues::FrmFabricDatabase2& screen);
 void BuildAccessoriesForm(Form& form, catalogues::FrmItemsDatabase& screen);

@@ -118,11 +118,13 @@ struct WayOut {
   bool brings_fabric = false;
 };
 
-constexpr std::array<WayOut, 4> kWaysOut = {{
+constexpr std::array<WayOut, 6> kWaysOut = {{
     {&MainCWizard::CmdCurOptions, "preferences"},
     {&MainCWizard::CmdSelect, "price list"},
     {&MainCWizard::CmdGobletWizard, "pleats"},
     {&MainCWizard::CmdGetFabricFromDatabase, "products", true},
+    {&MainCWizard::CmdPrint, "printed text"},
+    {&MainCWizard::Cmdprintwithoutprices, "printed text"},
 }};
 
 // The prices that lose the tax once more when the wizard comes back to the front.

@@ -37,10 +37,10 @@ Piece TotalsPage(Builder& build, curtain_wizard::MainCWizard& wizard) {
   const Piece rate =
       build.Fields({{"Vat/Tax Rate", {{wizard.TxtVatRate, {.width = 7, .number = true, .unit = "%"}}}}});
   const Piece rate_and_button = build.Row({rate, Builder::Gap(1), build.Press(wizard.CmdGetInfo, true)});
-  const Piece advice =
-      Advice(build,
-             "Get Info gathers the whole item and works out its total. After that it can be saved or copied.")
-          .Grow();
+  const Piece advice = Advice(build,
+                              "Get Info gathers the whole item and works out its total. After that it can be "
+                              "saved, printed or copied.")
+                           .Grow();
   const Piece table = build.Table(wizard.CostingGrid, rows);
   build.form().AddSizer([table] { table.widget->setMinimumHeight(Quarters(kTableHeight)); });
   const Piece beside =
