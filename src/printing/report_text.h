@@ -8,10 +8,11 @@
 // Texts of reports: pure functions over UTF-8.
 namespace tarvane::printing {
 
-// A name in formal capitals: "mcdonald o'neil-smith" becomes "McDonald O'Neil-Smith". Leading blanks are cut.
+// A name with its capitals, also behind hyphens, points and the beginnings that want them: "mary-ann mcleod"
+// comes out as "Mary-Ann McLeod". Leading blanks are cut.
 std::string FormalCase(std::string_view name);
 
-// Without one leading and one trailing double quote, each where it is there.
+// Without a double quote at either end: one each, where there is one.
 std::string_view WithoutQuotes(std::string_view text);
 
 // A carriage return becomes a blank. A line feed goes where a carriage return came before it or where it is
