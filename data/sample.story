@@ -134,5 +134,57 @@ show Text11 Text10
 type Ext4 5
 show G-Total TxtTotalDiscount 4text DepositPaid 5Text
 press "Save Records"
+
+# On paper: the estimate, one copy, which the job's notes tell;
+press MunQPE
+expect-screen FrmPrint
+press "Quick Print One"
+printed
+press "Cancel"
+show "5T(3)"
+
+# what the bay window costs, for the shop;
+choose SSTab2 "Rooms"
+choose SSTab1 "Room 1"
+open RoomItemGrid 1
+press "Next >>"
+press "Next >>"
+press "Next >>"
+press "Next >>"
+press "Next >>"
+press "Next >>"
+press CmdGetInfo
+press "Print With Prices"
+expect-screen FrmPrintDB
+show RichTextBox1
+close
+answer yes
+press CmdClose
+
+# the work sheet of the first room for the workroom, with a drawing of each curtain;
+press munPrint
+expect-screen FrmPrinting
+press "Deselect All"
+tick Check1
+tick "Draw each curtain to scale"
+show Outcome
+press "Build Work Sheets"
+expect-screen FrmPrintDB
+show TxtTab
+press CmdPreviewPrint
+expect-screen frmPreview
+show Label2
+answer yes
+press "Print Letter"
+expect-screen FrmPrintDB
+printed
+close
+
+# and the letter of thanks, looked at.
+choose SSTab1 "Thanks"
+press "Start Print/View"
+show RichTextBox1
+close
+close
 press CmdSize
 show RecordBar

@@ -273,6 +273,8 @@ Binding* Form::BindingOf(QObject* object) const {
 // Qt tells a new focus in the middle of a click or a key; the rules of leaving and entering, which may open
 // windows, run when that is over. Every User... function sets the focus first, so none can be overtaken.
 void Form::FollowQtFocus() {
+  // A list that was closed has the keyboard again; where its pick has sent the focus, it goes there.
+  if (!may_select_ && wanted_focus_ != nullptr) return;
   Binding* binding = BindingOf(QApplication::focusWidget());
   // Between the parts of a panel the screen's focus stays where it is.
   if (binding == nullptr || As<Panel>(binding->control()) != nullptr) return;

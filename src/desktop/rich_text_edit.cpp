@@ -335,7 +335,8 @@ void RichTextEdit::keyPressEvent(QKeyEvent* event) {
 
 void RichTextEdit::resizeEvent(QResizeEvent* event) {
   const int sheet = static_cast<int>(formats_.Pixels(kSheetTextWidth)) + 2 * kSheetMargin;
-  const int side = std::max(0, (width() - verticalScrollBar()->sizeHint().width() - sheet) / 2);
+  const int frame = 2 * frameWidth();
+  const int side = std::max(0, (width() - frame - verticalScrollBar()->sizeHint().width() - sheet) / 2);
   if (viewportMargins().left() != side) setViewportMargins(side, 0, side, 0);
   QTextEdit::resizeEvent(event);
 }

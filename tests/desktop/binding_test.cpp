@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHeaderView>
@@ -63,6 +64,23 @@ TEST_F(BindingTest, DropDownTypesAndPicksApart) {
   StartAt(screen_.Style);
   Key(Qt::Key_Up);
   EXPECT_THAT(screen_.log, ElementsAre("typed Goblet", "picked Goblet"));
+}
+
+TEST_F(BindingTest, WhereAPickSendsTheFocusItStays) {
+  screen_.Style.SetEntries({"Goblet", "Pencil"});
+  screen_.Style.SetTypingAllowed(false);
+  screen_.Style.OnPicked([this] { screen_.SetFocus(screen_.Width); });
+  Show({build_.Field(screen_.Style), build_.Field(screen_.Width)});
+  StartAt(screen_.Style);
+  // The list gives the keyboard back as it closes, which may be seen before the pick or behind it.
+  Of<QComboBox>(screen_.Style)->showPopup();
+  Settle();
+  QTest::keyClick(Of<QComboBox>(screen_.Style)->view(), Qt::Key_Down);
+  QTest::keyClick(Of<QComboBox>(screen_.Style)->view(), Qt::Key_Return);
+  Settle();
+  EXPECT_EQ(screen_.Style.text(), "Pencil");
+  EXPECT_TRUE(IsAt(screen_.Width));
+  EXPECT_EQ(screen_.focus(), &screen_.Width);
 }
 
 TEST_F(BindingTest, TypingInTheMiddleOfADropDownKeepsTheCursor) {

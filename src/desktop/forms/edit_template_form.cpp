@@ -1,3 +1,4 @@
+#include <QLabel>
 #include <QShortcut>
 
 #include "desktop/builders.h"
@@ -15,14 +16,23 @@ constexpr int kUsualWidth = 110;   // digits
 constexpr int kUsualHeight = 150;  // quarters
 constexpr int kLeastText = 30;     // quarters
 
+// From within the letter, where Tab is a tab, the access key leads to the tokens.
+Piece Tokens(Builder& build, DropDownList& tokens) {
+  const Piece list = build.Put(tokens, {.width = 17, .name = "Token"});
+  auto* caption = Make<QLabel>("&Token");
+  caption->setBuddy(list.widget);
+  // Underlined, the T doesn't draw the o as near as the caption's width counts on.
+  caption->setContentsMargins(0, 0, Quarters(1), 0);
+  return build.Row({{caption}, list}, 1);
+}
+
 }  // namespace
 
 void BuildEditTemplateForm(Form& form, printing::FrmEditTemp& screen) {
   Builder build(form);
-  // From within the letter, where Tab is a tab, the access key leads to the tokens.
-  const Piece choice = build.Row({build.Put(screen.CboTemplates, {.width = 20, .name = "Template"}),
-                                  build.Press(screen.CmdLoad), Builder::Spring(),
-                                  build.Fields({{"&Token", {{screen.CboTokens, {.width = 17}}}}})});
+  const Piece choice =
+      build.Row({build.Put(screen.CboTemplates, {.width = 20, .name = "Template"}),
+                 build.Press(screen.CmdLoad), Builder::Spring(), Tokens(build, screen.CboTokens)});
   const Piece letter = build.Rich(screen.RichTextBox1);
   build.Name(screen.RichTextBox1, "Text of the template");
   form.AddSizer([widget = letter.widget] { widget->setMinimumHeight(Quarters(kLeastText)); });
