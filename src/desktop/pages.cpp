@@ -25,7 +25,7 @@ class AskingTabBar : public QTabBar {
   void mousePressEvent(QMouseEvent* event) override {
     const int tab = tabAt(event->position().toPoint());
     setFocus(Qt::MouseFocusReason);
-    if (event->button() == Qt::LeftButton && tab >= 0 && tab != currentIndex()) asked(tab);
+    if (event->button() == Qt::LeftButton && tab >= 0) asked(tab);
   }
   void keyPressEvent(QKeyEvent* event) override {
     const int step = event->key() == Qt::Key_Right ? 1 : event->key() == Qt::Key_Left ? -1 : 0;

@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "printing/page_files.h"
+#include "printing/preview.h"
 #include "store/data_files.h"
 #include "text/fault.h"
 #include "text/trim.h"
@@ -16,9 +17,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view kTitle = "Print Preview";
-constexpr int kMostPercent = 200;
-constexpr int kLeastPercent = 30;
-constexpr int kPercentStep = 10;
 
 std::string Of(std::string_view what, int number, int count) {
   return std::string(what) + std::to_string(number) + " of " + std::to_string(count);
@@ -85,9 +83,7 @@ fs::path FolderNamed(std::string_view name) {
 frmMultiPgPreview::frmMultiPgPreview(Host& host, const paper::Pages& pages, fs::path folder)
     : Screen(host, std::string(kName)), pages_(pages), folder_(std::move(folder)) {
   SetTitle(kTitle);
-  for (int percent = kMostPercent; percent >= kLeastPercent; percent -= kPercentStep) {
-    cboPercent.AddEntry(std::to_string(percent) + "%");
-  }
+  cboPercent.SetEntries(frmPreview::ZoomEntries());
   cboPercent.SetTypingAllowed(false);
   cboPercent.OnChanged([this] { picChild.SetZoom(static_cast<int>(cboPercent.Number())); });
   cboPercent.SetText("100%");
@@ -119,8 +115,8 @@ void frmMultiPgPreview::ShowPage(int page) {
 }
 
 void frmMultiPgPreview::StepZoom(int entries) {
-  const int percent = picChild.zoom() - entries * kPercentStep;
-  if (percent < kLeastPercent || percent > kMostPercent) return;
+  const int percent = picChild.zoom() - entries * frmPreview::kZoomStep;
+  if (percent < frmPreview::kLeastZoom || percent > frmPreview::kMostZoom) return;
   cboPercent.SetText(std::to_string(percent) + "%");
 }
 

@@ -9,7 +9,6 @@ frmPreview::frmPreview(Host& host, const paper::Pages& pages, PreviewButton butt
     : Screen(host, std::string(kName)), pages_(&pages), button_(std::move(button)) {
   SetTitle("Print Preview");
   btnPreview[kPrint].SetCaption(button_.caption);
-  for (Slider* bar : {&vscPreview, &hscPreview}) bar->SetNeverShown();
   cboPercent.SetTypingAllowed(false);
   cmdStart.SetTip("First page");
   cmdPrevious.SetTip("Previous page");
@@ -35,12 +34,16 @@ frmPreview::frmPreview(Host& host, const paper::Pages& pages, PreviewButton butt
   cboPercent.OnPicked([this] { TakeZoom(); });
 }
 
-void frmPreview::Load() {
+std::vector<std::string> frmPreview::ZoomEntries() {
   std::vector<std::string> entries;
   for (int percent = kMostZoom; percent >= kLeastZoom; percent -= kZoomStep) {
     entries.push_back(std::to_string(percent) + "%");
   }
-  cboPercent.SetEntries(std::move(entries));
+  return entries;
+}
+
+void frmPreview::Load() {
+  cboPercent.SetEntries(ZoomEntries());
   cboPercent.SetText("100%");
   TakePages(*pages_);
   TakeZoom();

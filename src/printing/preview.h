@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "printing/rich_text_paper.h"
 #include "screen/control_family.h"
@@ -21,6 +22,7 @@ class frmPreview : public Screen {
   static constexpr int kMostZoom = 200;
   static constexpr int kLeastZoom = 30;
   static constexpr int kZoomStep = 10;
+  static std::vector<std::string> ZoomEntries();  // the largest first: "200%"
 
   // `pages` must outlive it.
   frmPreview(Host& host, const paper::Pages& pages, PreviewButton button);

@@ -1,13 +1,13 @@
 #include "printing/printing_options.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "printing/head_pdf.h"
 #include "printing/print_db.h"
 #include "screen/busy.h"
 #include "text/trim.h"
+#include "text/utf8.h"
 #include "tools/company.h"
 
 namespace tarvane::printing {
@@ -51,14 +51,17 @@ std::string Counted(std::size_t number, const std::string& what) {
   return std::to_string(number) + " " + what + (number == 1 ? "" : "s");
 }
 
+// A name that can't be broken would make the window as wide as itself.
+std::string Shortened(const std::string& name) {
+  static constexpr std::size_t kMost = 60;  // characters
+  const std::string_view begin = FirstCharacters(name, kMost);
+  return begin.size() < name.size() ? std::string(begin) + "..." : name;
+}
+
 rich_text::Document WithDrawings(Host& host, const PrintedJob& job) {
   const Busy busy(host);
-  const paper::Font& font = host.printer_font();
-  rich_text::CharStyle style;
-  style.half_points = static_cast<std::uint16_t>(std::lround(font.points * 2));
-  style.bold = font.bold;
-  style.italic = font.italic;
-  return PrintedDocument(job, style, font.name);
+  const rich_text::Document plain = InPrinterFont(host, "");
+  return PrintedDocument(job, plain.runs.front().style, plain.fonts.front());
 }
 
 std::vector<CurtainMeasures> CurtainsIn(std::string_view item_lines) {
@@ -102,6 +105,7 @@ FrmPrinting::FrmPrinting(Host& host, Shop& shop, job::JobScreen& job)
 
 void FrmPrinting::SetRules() {
   SSTab1.OnSelected([this] { TabSelected(); });
+  SSTab1.OnSelectedAgain([this] { TabSelected(); });  // the first tab's settings are had so on opening
   for (TickBox& tick : Ticks) tick.OnClicked([this] { TellOutcome(); });
   for (const auto& [ticked, other] :
        {std::pair(kEndLetter1, kEndLetter2), std::pair(kEndLetter2, kEndLetter1)}) {
@@ -212,7 +216,7 @@ std::string FrmPrinting::RoomsInWords() const {
 }
 
 std::string FrmPrinting::OutcomeText() const {
-  const std::string customer = job_.Name.empty() ? "a customer without a name" : job_.Name.text();
+  const std::string customer = job_.Name.empty() ? "a customer without a name" : Shortened(job_.Name.text());
   const std::string goes_with = " for " + customer + RoomsInWords();
   if (!LetterSelected()) return "No letter here. Work sheets" + goes_with;
   if (Check(kLetter).on()) {

@@ -30,11 +30,21 @@ std::string Joined(const std::array<std::string, 5>& pieces) {
   return joined;
 }
 
+// Only the sheet itself begins pages; what else a job's data hold of control characters is nothing to print.
+std::string Printable(std::string_view text) {
+  std::string printable(text);
+  std::erase_if(printable, [](char character) {
+    const bool is_control = static_cast<unsigned char>(character) < ' ' || character == '\x7F';
+    return is_control && character != '\t' && character != '\r' && character != '\n';
+  });
+  return printable;
+}
+
 // A text that grows by lines.
 class Lines {
  public:
   void Add(std::initializer_list<std::string_view> pieces) {
-    for (const std::string_view piece : pieces) text_ += piece;
+    for (const std::string_view piece : pieces) text_ += Printable(piece);
     End();
   }
   void End(int times = 1) {
@@ -184,6 +194,7 @@ std::vector<std::string> WorkSheetHead(const JobHead& job, bool notes, const Dat
   if (notes) {
     lines.insert(lines.end(), {"Notes about this Job", job.notes, "", "-------------------------"});
   }
+  std::ranges::transform(lines, lines.begin(), Printable);
   return lines;
 }
 

@@ -128,6 +128,7 @@ void TabStrip::UserSelect(int tab) {
       Notify(Aspect::kSelection);
       return;
     }
+    if (tab == selected_) return Run(again_rules_);
     Select(tab);
   });
 }

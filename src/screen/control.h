@@ -239,6 +239,8 @@ class TabStrip : public Control {
   // Runs the rules where another tab becomes the selected one.
   void Select(int tab);
   void OnSelected(Rule rule) { selected_rules_.push_back(std::move(rule)); }
+  // The worker clicked the tab that is selected already.
+  void OnSelectedAgain(Rule rule) { again_rules_.push_back(std::move(rule)); }
   // Asked before the worker's click moves the tab; false keeps it where it is. Procedures aren't asked.
   void SetGate(std::function<bool(int tab)> gate) { gate_ = std::move(gate); }
   void UserSelect(int tab);
@@ -248,6 +250,7 @@ class TabStrip : public Control {
   std::vector<std::string> tips_;
   int selected_ = 0;
   Rules selected_rules_;
+  Rules again_rules_;
   std::function<bool(int)> gate_;
 };
 

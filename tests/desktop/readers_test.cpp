@@ -67,6 +67,20 @@ TEST_F(ReadersTest, APageIsBuiltOnceAndShownHoweverItIsAskedForIfTheScreenAllows
   EXPECT_EQ(built, 1);
 }
 
+TEST_F(ReadersTest, AClickOnTheTabThatIsShownIsTold) {
+  int told = 0;
+  screen_.Steps.OnSelectedAgain([&told] { ++told; });
+  const auto page = [this] { return build_.Field(screen_.Width); };
+  Show({build_.Pages(screen_.Steps, {page, [this] { return build_.Field(screen_.Length); }})});
+  auto* bar = Of<QTabBar>(screen_.Steps);
+  for (const int tab : {0, 1, 1}) {
+    Click(bar, bar->tabRect(tab).center());
+    Settle();
+  }
+  EXPECT_EQ(told, 2);
+  EXPECT_EQ(screen_.Steps.selected(), 1);
+}
+
 TEST_F(ReadersTest, WhatIsToComeIsHiddenUntilItIsAskedFor) {
   screen_.Later.SetTip("Prints the job");
   const Piece later = build_.Group("Still to come", {build_.Press(screen_.Later)});

@@ -136,6 +136,15 @@ TEST_F(PrintingOptions, OnlyCurtainsWithMeasuresAreDrawnAndOnlyOnWorkSheets) {
   });
 }
 
+TEST_F(PrintingOptions, ALongNameIsToldByItsBeginning) {
+  folder_.AddJob({{"Name", std::string(255, 'W')}});
+  Show([](FrmPrinting& screen) {
+    screen.Check(FrmPrinting::kLetter).UserSet(true);
+    EXPECT_EQ(screen.Outcome.caption(), "Estimate for " + std::string(60, 'W') + "...");
+    EXPECT_EQ(screen.TxtDear.text().size(), 255U);
+  });
+}
+
 TEST_F(PrintingOptions, LongNotesGoOnOverThePagesOfThePdf) {
   folder_.AddRow("TblLetters", {});
   fs::copy(TARVANE_DATA_DIR "/Fonts", folder_.path() / "Fonts");

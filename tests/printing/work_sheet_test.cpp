@@ -9,6 +9,11 @@
 namespace tarvane::printing {
 namespace {
 
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
 const std::string kRule(58, '-');
 
 PrintedJob Job() {
@@ -97,6 +102,17 @@ TEST(PrintedText, EachPartStandsInItsPlaceWithItsLineEnds) {
     whole_text += each.text;
   }
   EXPECT_EQ(PrintedText(whole), whole_text);
+}
+
+TEST(PrintedText, WhatAJobHoldsBeginsNoPage) {
+  PrintedJob job = Job();
+  job.job.name = std::string("A\fB\0C\x1B\tD\x7F", 8);
+  job.job.address = {"Mill\r\nLane", "", "", ""};
+  EXPECT_THAT(PrintedText(job), "");
+  job.letter = {"Ann\f", "Yes.\f"};
+  EXPECT_THAT(PrintedText(job), AllOf(StartsWith("ABC\tD\r\nMill\r\nLane\r\n"), HasSubstr("Dear Ann\r\n"),
+                                      Not(HasSubstr("\f"))));
+  EXPECT_EQ(WorkSheetHead(job.job, false, job.now).front(), "ABC\tD");
 }
 
 TEST(PrintedDocument, DrawingsStandBelowTheirRoomAndTheTextIsTheSame) {

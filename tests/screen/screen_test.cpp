@@ -167,6 +167,19 @@ TEST(Controls, TabsMayBeGated) {
   EXPECT_EQ(screen.Tabs.selected(), 1);
 }
 
+TEST(Controls, AClickOnTheSelectedTabIsToldApart) {
+  FakeHost host;
+  Parent screen(host);
+  std::string told;
+  screen.Tabs.OnSelected([&] { told += 'm'; });
+  screen.Tabs.OnSelectedAgain([&] { told += 'a'; });
+  screen.Tabs.UserSelect(0);
+  screen.Tabs.UserSelect(1);
+  screen.Tabs.UserSelect(1);
+  screen.Tabs.Select(1);
+  EXPECT_EQ(told, "ama");
+}
+
 TEST(HeldGrid, TheCursorStaysOnARowWhileThereIsOne) {
   FakeHost host;
   Parent screen(host);

@@ -9,6 +9,13 @@ expect-off Help
 show SSTab1 Label1 TxtDear Outcome
 show Check1 Check2 Check3 Check4 Check5 Check13 Check14 Check15 Check16 Check17 Check18 Check19 Check20 Check21
 
+# A click on the tab that is selected ticks what its letter begins with.
+choose SSTab1 Estimate
+show Check13 Check14 Check15 Check16 Check17
+untick Check1
+choose SSTab1 Estimate
+expect Check1 on
+
 # What each tab ticks; those of the texts tick nothing, and print no letter.
 choose SSTab1 Thanks
 show Label1 Outcome Check1 Check4 Check13 Check14 Check15 Check16 Check17

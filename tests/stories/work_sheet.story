@@ -38,6 +38,10 @@ press "Build Work Sheets"
 show RichTextBox1
 press CmdPreviewPrint
 expect-screen frmPreview
+expect-hidden vscPreview
+press "Zoom &In"
+expect-shown vscPreview
+expect-shown hscPreview
 close
 close
 untick CheckDrawings

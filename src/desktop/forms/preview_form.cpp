@@ -53,6 +53,10 @@ void BuildPreviewForm(Form& form, frmPreview& screen) {
   const Piece body =
       build.Row({build.PageStrip(screen.tabPreview), build.Page(screen.picChild, StepsOf(screen)).Grow()});
   build.Name(screen.Slider1, "Page");
+  // The bars of the page's own view stand for these.
+  for (Slider* bar : {&screen.vscPreview, &screen.hscPreview}) {
+    form.Bind(*bar, Make<QObject>(form.window()), nullptr);
+  }
   FillDialog(form, {build.Column({head, body.Grow()})}, &screen.cmdClose);
   AddKey(form, QKeySequence("Ctrl+P"), screen.btnPreview[frmPreview::kPrint]);
   AddKey(form, QKeySequence("Ctrl+S"), screen.CmdSavePdf);
