@@ -12,6 +12,16 @@ namespace {
 constexpr int kUsualWidth = 120;   // digits
 constexpr int kUsualHeight = 170;  // quarters
 
+PageSteps StepsOf(printing::frmMultiPgPreview& screen) {
+  return {.first = &screen.cmdStart,
+          .previous = &screen.cmdPrevious,
+          .next = &screen.cmdNext,
+          .last = &screen.cmdEnd,
+          .zoom_in = &screen.cmdZoomIn,
+          .zoom_out = &screen.cmdZoomOut};
+}
+
+// The focus stays where it is: with the page as a rule.
 void AddKeys(Form& form, printing::frmMultiPgPreview& screen) {
   const std::pair<const char*, Button*> keys[] = {
       {"Alt+Left", &screen.cmdPrevious}, {"Alt+Right", &screen.cmdNext}, {"Ctrl+Home", &screen.cmdStart},
@@ -20,7 +30,7 @@ void AddKeys(Form& form, printing::frmMultiPgPreview& screen) {
   for (const auto& [key, button] : keys) {
     auto* shortcut = Make<QShortcut>(QKeySequence(key), form.window());
     QObject::connect(shortcut, &QShortcut::activated, &form, [&form, pressed = button] {
-      form.Act(*pressed, [pressed](Control&) { pressed->UserPress(); });
+      form.Act(*pressed, [pressed](Control&) { pressed->Press(); });
     });
   }
 }
@@ -34,7 +44,7 @@ void BuildPageBrowserForm(Form& form, printing::frmMultiPgPreview& screen) {
                   build.Press(screen.cmdNext), build.Press(screen.cmdEnd), build.Press(screen.cmdGoto),
                   Builder::Spring(), build.Field(screen.cboPercent, {.width = 7, .name = "Zoom"}),
                   build.Press(screen.cmdZoomIn), build.Press(screen.cmdZoomOut)});
-  const Piece page = build.Page(screen.picChild);
+  const Piece page = build.Page(screen.picChild, StepsOf(screen));
   form.AddSizer([widget = page.widget] { widget->setMinimumSize(Digits(30), Quarters(30)); });
   const Piece status = build.Text(screen.lblStatus);
   qobject_cast<QLabel*>(status.widget)->setWordWrap(true);

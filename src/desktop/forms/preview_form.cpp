@@ -11,10 +11,11 @@ namespace {
 
 using printing::frmPreview;
 
+// The focus stays where it is: with the page as a rule.
 void AddKey(Form& form, const QKeySequence& keys, Button& button) {
   auto* shortcut = Make<QShortcut>(keys, form.window());
   QObject::connect(shortcut, &QShortcut::activated, &form,
-                   [&form, &button] { form.Act(button, [&button](Control&) { button.UserPress(); }); });
+                   [&form, &button] { form.Act(button, [&button](Control&) { button.Press(); }); });
 }
 
 PageSteps StepsOf(frmPreview& screen) {

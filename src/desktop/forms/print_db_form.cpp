@@ -130,11 +130,12 @@ void AddKeys(Form& form, FrmPrintDB& screen, QLineEdit* find) {
     find->setFocus(Qt::ShortcutFocusReason);
     find->selectAll();
   });
-  OnKey(form, QKeySequence(Qt::Key_F3),
-        [&form, &screen] { form.Act(screen.CmdFind, [&](Control&) { screen.CmdFind.Press(); }); });
-  OnKey(form, QKeySequence(Qt::CTRL | Qt::Key_P), [&form, &screen] {
-    form.Act(screen.CmdPreviewPrint, [&](Control&) { screen.CmdPreviewPrint.UserPress(); });
-  });
+  // The keys leave the worker in her text.
+  const auto press = [&form](Button& button) {
+    return [&form, &button] { form.Act(button, [&button](Control&) { button.Press(); }); };
+  };
+  OnKey(form, QKeySequence(Qt::Key_F3), press(screen.CmdFind));
+  OnKey(form, QKeySequence(Qt::CTRL | Qt::Key_P), press(screen.CmdPreviewPrint));
 }
 
 }  // namespace

@@ -11,7 +11,7 @@ namespace {
 
 using printing::FrmPrinting;
 
-constexpr int kUsualWidth = 118;   // digits
+constexpr int kUsualWidth = 122;   // digits
 constexpr int kUsualHeight = 156;  // quarters
 
 Piece Letter(Builder& build, FrmPrinting& screen) {
@@ -24,8 +24,8 @@ Piece Letter(Builder& build, FrmPrinting& screen) {
     });
   }
   const Piece letter = build.Pages(screen.SSTab1, std::move(pages));
-  const Piece dear = build.Fields({{"Dear", {{screen.TxtDear, {}}}}});
-  return build.Column({letter, build.Text(screen.Label1, true), dear}, 1);
+  const Piece dear = build.Fields({{"Dear", {{screen.TxtDear, {}}, build.Text(screen.Label1, true)}}});
+  return build.Column({letter.Grow(), dear}, 1);
 }
 
 // The ticks, and what the job has of each in a column of its own.
@@ -44,19 +44,24 @@ Piece Rooms(Builder& build, FrmPrinting& screen) {
 Piece Ticks(Builder& build, FrmPrinting& screen, const std::vector<int>& numbers) {
   Pieces ticks;
   for (const int number : numbers) ticks.push_back(build.Tick(screen.Check(number)));
-  return build.Column(ticks, 1);
+  return build.Column(ticks, 0);
 }
 
 Piece GoesWithIt(Builder& build, FrmPrinting& screen) {
   const Piece rooms = Rooms(build, screen);
-  const Piece letter = build.Group(
-      "Letter",
-      {Ticks(build, screen,
-             {FrmPrinting::kLetter, FrmPrinting::kCompany, FrmPrinting::kBalance, FrmPrinting::kEndLetter1,
-              FrmPrinting::kEndLetter2, FrmPrinting::kExcept, FrmPrinting::kLetterSeparate})});
+  // What it begins with, and what it ends with.
+  const Piece begin =
+      Ticks(build, screen, {FrmPrinting::kLetter, FrmPrinting::kCompany, FrmPrinting::kBalance});
+  const Piece end =
+      Ticks(build, screen, {FrmPrinting::kEndLetter1, FrmPrinting::kEndLetter2, FrmPrinting::kExcept});
+  const Piece letter =
+      build.Group("Letter", {build.Column({build.Row({begin, Builder::Spring(), end}),
+                                           build.Tick(screen.Check(FrmPrinting::kLetterSeparate))},
+                                          0)});
   const Piece sheet = build.Group(
-      "Work sheet", {Ticks(build, screen, {FrmPrinting::kNotes}), build.Tick(screen.CheckDrawings)});
-  return build.Column({rooms, Builder::Gap(1), letter, Builder::Gap(1), sheet, Builder::Spring()}, 1);
+      "Work sheet",
+      {build.Column({build.Tick(screen.Check(FrmPrinting::kNotes)), build.Tick(screen.CheckDrawings)}, 0)});
+  return build.Column({rooms, letter, sheet, Builder::Spring()}, 1);
 }
 
 }  // namespace
