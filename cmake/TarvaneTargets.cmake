@@ -42,7 +42,8 @@ function(add_area_tests name)
   else()
     target_precompile_headers(${name}_tests REUSE_FROM tarvane_test_headers)
   endif()
-  gtest_discover_tests(${name}_tests DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
+  # Values aren't shown in the names: what a table prints of itself may be long, or no name at all.
+  gtest_discover_tests(${name}_tests NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
 endfunction()
 
 # add_area_bench(NAME [LINK lib ...]): one benchmark program of the *.cpp files in this folder.

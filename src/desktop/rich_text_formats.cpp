@@ -59,7 +59,7 @@ double PointsOf(const QTextCharFormat& format, double usual, double pixels_per_p
 PictureNames::PictureNames() : prefix_("picture:" + QUuid::createUuid().toString(QUuid::WithoutBraces)) {}
 
 QString PictureNames::Add(const rich_text::Picture& picture) {
-  const QString name = prefix_ + "/" + QString::number(pictures_.size());
+  QString name = prefix_ + "/" + QString::number(pictures_.size());
   pictures_.emplace(name, picture);
   return name;
 }

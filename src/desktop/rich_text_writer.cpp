@@ -13,7 +13,6 @@
 namespace tarvane::desktop {
 
 using rich_text::CharStyle;
-using rich_text::Document;
 using rich_text::Picture;
 using rich_text::TableRow;
 

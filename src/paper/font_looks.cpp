@@ -57,7 +57,7 @@ void FontLooks::ReadAdvances(FontLook& look) {
   for (char c = ' '; c < 0x7F; ++c) {
     const double width = Sane(measure_.WidthOf(look.font, {&c, 1}));
     together += width * static_cast<double>(std::ranges::count(kPairs, c));
-    look.advances[static_cast<std::size_t>(c)] = std::llround(width * FontLook::kParts);
+    look.advances[static_cast<unsigned char>(c)] = std::llround(width * FontLook::kParts);
   }
   look.adds_up = std::abs(together - Sane(measure_.WidthOf(look.font, kPairs))) < kSlack;
 }

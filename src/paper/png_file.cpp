@@ -195,7 +195,7 @@ bool Flatten(const Png& png, const Passes& passes, std::string& bytes, std::stri
       if (!Unfilter(row[0], step, above, row + 1, length)) return false;
       for (std::uint32_t column = 0; column < columns; ++column) {
         const Rgb pixel = PixelOf(png, row + 1, column);
-        const std::size_t place = std::size_t{y} * png.width + pass.x + column * pass.step_x;
+        const std::size_t place = std::size_t{y} * png.width + pass.x + std::size_t{column} * pass.step_x;
         std::ranges::copy(pixel.parts, pixels.begin() + static_cast<std::ptrdiff_t>(place * 3));
       }
       above = row + 1;

@@ -27,6 +27,7 @@ bool IsOffered(const LetterToken& token) { return token.token != "#xx/xx/xx#"; }
 FrmEditTemp::FrmEditTemp(Host& host, Shop& shop) : Screen(host, std::string(kName)), shop_(shop) {
   SetTitle("Tarvane Edit Templates");
   std::vector<std::string> entries;
+  entries.reserve(std::size(kTemplates));
   for (const Template& each : kTemplates) entries.emplace_back(each.entry);
   CboTemplates.SetEntries(std::move(entries));
   for (DropDownList* list : {&CboTemplates, &CboTokens}) list->SetTypingAllowed(false);

@@ -157,11 +157,11 @@ void FrmPrintDB::FindNext() {
 void FrmPrintDB::Preview() {
   PreviewRichText(*this, RichTextBox1.document(), kPreviewMargins,
                   {.caption = std::string(kPrintLetter),
-                   .print = [this] { return PrintLetter(); },
+                   .print = [this] { return PrintLetter_Click(); },
                    .name = file_.stem().string()});
 }
 
-bool FrmPrintDB::PrintLetter() {
+bool FrmPrintDB::PrintLetter_Click() {
   return PrintRichText(*this, RichTextBox1.document(), kLetterMargins,
                        {.title = file_.empty() ? std::string(kTitle) : file_.stem().string()});
 }

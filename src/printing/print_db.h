@@ -41,8 +41,8 @@ class FrmPrintDB : public Screen {
   Button Command3{this, "Command3", "P&DF"};
   Button CmdClose{this, "CmdClose", "&Close"};
 
-  // The main screen's PrintLetter_Click: margins of an inch. False where the worker cancels.
-  bool PrintLetter();
+  // The main screen's operation: margins of an inch. False where the worker cancels.
+  bool PrintLetter_Click();
 
   // "" where nothing waits to be saved: what the worker handed over unchanged can be had again.
   std::string Unsaved() const;

@@ -1,10 +1,10 @@
 #include "printing/text_pdf.h"
 
-#include <algorithm>
 #include <vector>
 
 #include "pdf/text_encoding.h"
 #include "pdf/tqr_pdf.h"
+#include "printing/pdf_rows.h"
 #include "printing/pdf_surroundings.h"
 #include "store/data_files.h"
 #include "text/fault.h"
@@ -16,11 +16,9 @@ namespace {
 
 using rich_text::Document;
 
-constexpr double kMargin = 70;  // points, as the preview has it
-constexpr double kSize = 10;
-constexpr double kLineHeight = 12;
-constexpr double kPageHeight = 842;
-constexpr double kWidth = 595 - 2 * kMargin;
+// Margins of 70 points, as the preview has them.
+constexpr RowsOnPage kPlace = {
+    .left = 70, .right = 595 - 70, .first = 82, .last = 842 - 70, .step = 12, .size = 10};
 constexpr std::size_t kTab = 8;  // characters
 
 struct TextLine {
@@ -57,63 +55,6 @@ std::vector<TextLine> LinesOf(const Document& text) {
   return lines;
 }
 
-class TextPdf {
- public:
-  TextPdf(pdf::tqrPDF& document) : document_(document) {}
-
-  void Write(const TextLine& line) {
-    if (line.begins_page && !is_first_) NewPage();
-    is_first_ = false;
-    std::string_view rest = line.text;
-    do {
-      const std::size_t fits = Fitting(rest);
-      Put(std::string(rest.substr(0, fits)));
-      rest.remove_prefix(fits);
-      // A blank at which a line was broken is dropped.
-      if (!rest.empty()) rest.remove_prefix(std::min(rest.find_first_not_of(' '), rest.size()));
-    } while (!rest.empty());
-  }
-
- private:
-  double WidthOf(std::string_view text) { return document_.PDFGetStringWidth(text, "", kSize); }
-
-  // Bytes of the next line: up to a blank, or within a word that is wider than the line.
-  std::size_t Fitting(std::string_view text) {
-    double width = 0;
-    std::size_t at = 0;
-    while (at < text.size()) {
-      const std::size_t word = std::min(text.find(' ', text.find_first_not_of(' ', at)), text.size());
-      width += WidthOf(text.substr(at, word - at));
-      if (width > kWidth) break;
-      at = word;
-    }
-    if (at > 0) return at;
-    for (width = 0; at < text.size();) {
-      const std::size_t length = DecodeCharacter(text, at).length;
-      width += WidthOf(text.substr(at, length));
-      if (width > kWidth && at > 0) return at;
-      at += length;
-    }
-    return at;
-  }
-
-  void Put(const std::string& text) {
-    if (y_ + kLineHeight > kPageHeight - kMargin) NewPage();
-    y_ += kLineHeight;
-    if (!text.empty()) document_.PDFTextOut(text, kMargin, y_);
-  }
-
-  void NewPage() {
-    document_.PDFEndPage();
-    document_.PDFNewPage();
-    y_ = kMargin;
-  }
-
-  pdf::tqrPDF& document_;
-  double y_ = kMargin;  // the base line of the latest line
-  bool is_first_ = true;
-};
-
 // What WinAnsi has "?" for, though it is none.
 std::string Missing(const std::vector<TextLine>& lines) {
   std::string missing;
@@ -138,13 +79,16 @@ std::string WriteTextPdf(Host& host, const std::filesystem::path& program_folder
   document.PDFStrict(true);
   document.PDFTitle(file.filename().string());
   document.PDFFileName(file.string());
-  document.PDFLoadAfm(FindFile(program_folder, "Fonts").string());
+  const std::filesystem::path fonts = FindFile(program_folder, "Fonts");
+  document.PDFLoadAfm(fonts.string());
   document.PDFSetUnit(pdf::kPoint);
   document.PDFBeginDoc();
-  document.PDFSetFont(pdf::kArial, kSize);
   const std::vector<TextLine> lines = LinesOf(text);
-  TextPdf pages(document);
-  for (const TextLine& line : lines) pages.Write(line);
+  PdfRows rows(document, fonts, kPlace);
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    if (lines[i].begins_page && i > 0) rows.NewPage();
+    rows.Write(lines[i].text);
+  }
   document.PDFEndDoc();
   if (!document.PDFWritten()) throw Fault("The PDF file couldn't be written: " + file.string());
   return Missing(lines);

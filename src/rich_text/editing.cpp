@@ -283,10 +283,9 @@ Document Slice(const Document& document, Range range) {
 }
 
 CharStyle Changed(Document& document, CharStyle style, const StyleChange& change) {
-  constexpr int kMost = 3276;
   if (change.font) style.font = document.FontNumber(*change.font);
   if (change.half_points) {
-    style.half_points = static_cast<std::uint16_t>(std::clamp(*change.half_points, 1, kMost));
+    style.half_points = static_cast<std::uint16_t>(std::clamp(*change.half_points, 1, kLargestHalfPoints));
   }
   if (change.half_points_more != 0) {
     const int size = style.half_points;

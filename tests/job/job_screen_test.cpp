@@ -84,6 +84,8 @@ struct TotalsCase {
   std::vector<std::string> totals;
 };
 
+void PrintTo(const TotalsCase& each, std::ostream* out) { *out << each.what; }
+
 class TotalsTest : public JobScreenTest, public testing::WithParamInterface<TotalsCase> {};
 
 TEST_P(TotalsTest, Follow) {

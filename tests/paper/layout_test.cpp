@@ -48,6 +48,8 @@ struct Case {
   Shape shape = {};
 };
 
+void PrintTo(const Case& each, std::ostream* out) { *out << each.name; }
+
 class LayOut : public testing::TestWithParam<Case> {};
 
 TEST_P(LayOut, PutsLinesInTheirPlaces) {

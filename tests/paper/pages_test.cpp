@@ -66,7 +66,9 @@ TEST(Pages, EndWhereTheyAreFull) {
 
 TEST(Pages, ShrinkPicturesToTheirArea) {
   Document document = Marked("a\uFFFCb\n\uFFFC");
+  document.text = "a\uFFFCb\n\uFFFC";  // plain text has another sign there, which is as long
   document.pictures = {{{}, "x", 400, 600}, {{}, "y", 4000, 100}};
+  ASSERT_TRUE(rich_text::IsSound(document));
   EXPECT_THAT(Formatted(document, Columns(10)),
               ElementsAre("0,30 a", "picture 10,0 30,30", "30,30 b", "picture 0,32 100,34.5"));
   EXPECT_THAT(Formatted(document, Columns(10, 2)),

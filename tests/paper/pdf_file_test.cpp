@@ -134,7 +134,12 @@ TEST_P(Pictures, AreDrawn) {
 INSTANTIATE_TEST_SUITE_P(Png, Pictures,
                          testing::Values("rgb", "rgb-interlaced", "rgb-16", "rgb-key", "rgb-alpha",
                                          "rgb-alpha-interlaced", "palette", "palette-clear", "grey",
-                                         "grey-alpha"));
+                                         "grey-alpha"),
+                         [](const auto& tested) {
+                           std::string name = tested.param;
+                           std::ranges::replace(name, '-', '_');
+                           return name;
+                         });
 
 TEST(PdfFile, FramesPicturesThatAreDamagedAndKeepsOneOfASort) {
   ScratchFolder folder;

@@ -203,11 +203,11 @@ TEST_F(PrintDbTest, PreviewsAndPrints) {
   text_.UserType("text");
   letter_.CmdPreviewPrint.UserPress();
   EXPECT_THAT(host_.shown, ElementsAre("frmPreview"));
-  letter_.PrintLetter();
+  letter_.PrintLetter_Click();
   ASSERT_EQ(host_.print_orders.size(), 1);
   EXPECT_EQ(host_.print_orders[0].title, "Letter");
   host_.print_cancelled = true;
-  letter_.PrintLetter();
+  letter_.PrintLetter_Click();
   EXPECT_THAT(host_.messages, ElementsAre("Nothing was printed."));
 }
 

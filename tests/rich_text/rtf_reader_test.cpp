@@ -14,6 +14,8 @@ struct Snippet {
   std::string dump;
 };
 
+void PrintTo(const Snippet& snippet, std::ostream* out) { *out << testing::PrintToString(snippet.body); }
+
 class Snippets : public testing::TestWithParam<Snippet> {};
 
 TEST_P(Snippets, AreRead) {

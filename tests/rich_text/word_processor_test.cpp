@@ -34,7 +34,8 @@ TEST_P(WordProcessor, FileIsReadAndKept) {
 
 INSTANTIATE_TEST_SUITE_P(Files, WordProcessor,
                          testing::Values("writer_letter", "writer_sheet", "writer_sheet_docx",
-                                         "abiword_letter", "abiword_sheet"));
+                                         "abiword_letter", "abiword_sheet"),
+                         [](const auto& tested) { return std::string(tested.param); });
 
 }  // namespace
 }  // namespace tarvane::rich_text

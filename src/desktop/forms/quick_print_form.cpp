@@ -1,4 +1,5 @@
 #include <QShortcut>
+#include <QWidget>
 
 #include "desktop/builders.h"
 #include "desktop/forms/form_window.h"
