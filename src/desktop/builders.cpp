@@ -49,9 +49,8 @@ Piece Builder::Put(Control& control, const Look& look) {
       control, [&](TextField& field) { return Field(field, look); }, [&](TickBox& box) { return Tick(box); },
       [&](Button& button) { return Press(button, look.strong); }, [&](Label& label) { return Text(label); },
       [&](ListBox& list) { return List(list); }, [&](Grid& grid) { return Table(grid); },
-      [&](Calendar& calendar) { return Month(calendar); },
-      [&](RichTextBox& box) { return Rich(box); }, [&](PageView& view) { return Page(view); },
-      [&](Slider& slider) { return Slide(slider); },
+      [&](Calendar& calendar) { return Month(calendar); }, [&](RichTextBox& box) { return Rich(box); },
+      [&](PageView& view) { return Page(view); }, [&](Slider& slider) { return Slide(slider); },
       [&](TabStrip& tabs) { return Tabs(tabs, [](int) {}); },
       [&](Panel& panel) -> Piece {
         throw Fault("A panel is shown by its group, not by a widget: " + panel.name() + ".");
