@@ -8,9 +8,9 @@
 
 namespace tarvane {
 
-// A job of twelve rooms with `items` curtains each, of real length: a state of 65 fields, an estimate of 18
-// lines.
-inline RowValues JobOfCurtains(int items) {
+// The saved items of a room of `items` curtains, of real length: a state of 65 fields, an estimate of 18
+// lines. No two rooms have curtains alike.
+inline std::string LinesOfRoom(int room, int items) {
   std::string lines;
   for (int number = 0; number < items; ++number) {
     lines += std::to_string(100 + number) + ".50|Pencil pleat - Bay window|";
@@ -20,7 +20,7 @@ inline RowValues JobOfCurtains(int items) {
         case 4:
         case 12:
         case 14:
-          lines += std::to_string(150 + number * 7 + field);
+          lines += std::to_string(150 + number * 7 + field) + '.' + std::to_string(10 + room);
           break;
         case 56:
           lines += "True";
@@ -39,9 +39,16 @@ inline RowValues JobOfCurtains(int items) {
     }
     lines += "|\r\n";
   }
-  const std::string summary = job::CompileRoomSummary(job::ItemLines(lines, job::kRoomItemLayout).Rows());
+  return lines;
+}
+
+// A job of twelve rooms with so many curtains each.
+inline RowValues JobOfCurtains(int items) {
   RowValues values = {{"Name", "Mrs Tarrant"}};
+  int number = 0;
   for (const job::RoomColumns& room : job::kRoomColumns) {
+    const std::string lines = LinesOfRoom(number++, items);
+    const std::string summary = job::CompileRoomSummary(job::ItemLines(lines, job::kRoomItemLayout).Rows());
     values[std::string(room.items)] = lines;
     values[std::string(room.summary)] = summary;
     values[std::string(room.total)] = "3000.00";

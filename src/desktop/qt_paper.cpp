@@ -161,6 +161,8 @@ void QtSurface::DrawPicture(const paper::Picture& picture, const paper::Area& ar
     DrawBox(area, &frame, nullptr);
     return;
   }
+  // PDF files hold other pictures as JPEG, which would smear the lines of a drawing.
+  painter_.setRenderHint(QPainter::LosslessImageRendering, image.depth() <= 8);
   painter_.drawImage(ToQt(area), image);
 }
 

@@ -7,6 +7,7 @@
 #include <QScrollBar>
 #include <QTextFrame>
 #include <QTextTable>
+#include <QUrl>
 #include <algorithm>
 
 #include "desktop/builders.h"
@@ -63,6 +64,11 @@ RichTextEdit::RichTextEdit(Form& form, RichTextBox& box)
   document()->setDefaultFont(QFont("Arial", 10));
   setTabStopDistance(formats_.Pixels(rich_text::kTwipsPerInch / 2.0));
   setMinimumSize(160, 120);
+  // Only pictures that come into sight are decoded: a work sheet has hundreds.
+  document()->setResourceProvider([this](const QUrl& name) {
+    const rich_text::Picture* picture = pictures_.Find(name.toString());
+    return picture == nullptr ? QVariant() : QVariant(ImageOf(*picture, formats_));
+  });
   connect(document(), &QTextDocument::contentsChange, this,
           [this](int position, int, int added) { TakeChange(position, added); });
   connect(this, &QTextEdit::cursorPositionChanged, this, &RichTextEdit::TakeSelection);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QString>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -57,7 +58,10 @@ class RichTextFormats {
   double pixels_per_twip_;
 };
 
-// Writes paragraphs into Qt's text at a cursor.
+// As large as it is shown; a grey box for one that can't be read.
+QImage ImageOf(const rich_text::Picture& picture, const RichTextFormats& formats);
+
+// Writes paragraphs into Qt's text at a cursor. Pictures stand there by their names alone.
 class RichTextWriter {
  public:
   RichTextWriter(const RichTextFormats& formats, PictureNames& pictures, const rich_text::Document& document)

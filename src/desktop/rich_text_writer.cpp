@@ -2,7 +2,6 @@
 #include <QImageReader>
 #include <QTextDocument>
 #include <QTextTable>
-#include <QUrl>
 #include <algorithm>
 #include <cmath>
 #include <set>
@@ -27,8 +26,22 @@ QString WithoutBlockEnds(QString text) {
   return text;
 }
 
-// As large as it is shown; a frame for one that can't be read.
-QImage Decoded(const Picture& picture, QSize size) {
+QSize SizeOf(const Picture& picture, const RichTextFormats& formats) {
+  constexpr int kMostPixels = 4000;
+  const auto side = [&](int twips) {
+    return std::clamp(static_cast<int>(std::lround(formats.Pixels(twips))), 1, kMostPixels);
+  };
+  return {side(picture.width), side(picture.height)};
+}
+
+int Column(const std::vector<int>& edges, int edge) {
+  return static_cast<int>(std::ranges::lower_bound(edges, edge) - edges.begin());
+}
+
+}  // namespace
+
+QImage ImageOf(const Picture& picture, const RichTextFormats& formats) {
+  const QSize size = SizeOf(picture, formats);
   QByteArray bytes =
       QByteArray::fromRawData(picture.bytes.data(), static_cast<qsizetype>(picture.bytes.size()));
   QBuffer buffer(&bytes);
@@ -41,14 +54,6 @@ QImage Decoded(const Picture& picture, QSize size) {
   image.fill(Qt::lightGray);
   return image;
 }
-
-constexpr int kMostPixels = 4000;  // of a picture's side on the screen
-
-int Column(const std::vector<int>& edges, int edge) {
-  return static_cast<int>(std::ranges::lower_bound(edges, edge) - edges.begin());
-}
-
-}  // namespace
 
 const QTextCharFormat& RichTextWriter::FormatOf(const CharStyle& style) {
   constexpr std::size_t kMostKnown = 32;
@@ -71,16 +76,12 @@ std::size_t RichTextWriter::NextPicture(std::size_t place) {
 
 void RichTextWriter::WritePicture(QTextCursor& cursor, const QTextCharFormat& format) {
   const Picture& picture = document_.pictures[pictures_to_place_];
-  const auto side = [this](int twips) {
-    return std::clamp(static_cast<int>(std::lround(formats_.Pixels(twips))), 1, kMostPixels);
-  };
-  const QSize size(side(picture.width), side(picture.height));
+  const QSize size = SizeOf(picture, formats_);
   QTextImageFormat image;
   image.merge(format);
   image.setName(pictures_.Add(picture));
   image.setWidth(size.width());
   image.setHeight(size.height());
-  cursor.document()->addResource(QTextDocument::ImageResource, QUrl(image.name()), Decoded(picture, size));
   cursor.insertText(QString(QChar::ObjectReplacementCharacter), image);
 }
 

@@ -169,8 +169,8 @@ int FoldsOf(const CurtainMeasures& measures, double width) {
 void DrawCloth(Sheet& sheet, const ClothArea& cloth, int folds, double hem) {
   const double step = (cloth.right - cloth.left) / (folds + 1);
   sheet.Stripes(cloth.left, cloth.top, cloth.right, cloth.bottom, [&](double at) {
-    const double depth = folds == 0 ? 0 : std::pow(std::cos(std::numbers::pi * at / step), 4);
-    return kCloth - depth * (kCloth - kFold);
+    const double wave = folds == 0 ? 0 : std::cos(std::numbers::pi * at / step);
+    return kCloth - wave * wave * wave * wave * (kCloth - kFold);
   });
   // The gathers of the heading.
   const double heading = std::min(4.0, (cloth.bottom - cloth.top) / 8);

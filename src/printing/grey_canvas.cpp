@@ -34,7 +34,7 @@ GreyCanvas::GreyCanvas(int width, int height)
 
 void GreyCanvas::Darken(int x, int y, double share, int grey) {
   std::uint8_t& pixel = pixels_[At(x, y)];
-  const auto wanted = static_cast<std::uint8_t>(std::lround(kWhite - share * (kWhite - grey)));
+  const auto wanted = static_cast<std::uint8_t>(kWhite - share * (kWhite - grey) + 0.5);
   pixel = std::min(pixel, wanted);
 }
 
@@ -43,13 +43,14 @@ void GreyCanvas::DrawLine(double x1, double y1, double x2, double y2, double thi
   const double across = x2 - x1;
   const double down = y2 - y1;
   const double square = across * across + down * down;
+  const double share_of_square = square > 0 ? 1 / square : 0;
   const Reach rows = Touched(std::min(y1, y2) - reach, std::max(y1, y2) + reach, height_);
   const Reach columns = Touched(std::min(x1, x2) - reach, std::max(x1, x2) + reach, width_);
   for (int y = rows.first; y < rows.end; ++y) {
     for (int x = columns.first; x < columns.end; ++x) {
       const double to_x = x + 0.5 - x1;
       const double to_y = y + 0.5 - y1;
-      const double along = square > 0 ? std::clamp((to_x * across + to_y * down) / square, 0.0, 1.0) : 0;
+      const double along = std::clamp((to_x * across + to_y * down) * share_of_square, 0.0, 1.0);
       const double aside_x = to_x - along * across;
       const double aside_y = to_y - along * down;
       const double distance = aside_x * aside_x + aside_y * aside_y;
@@ -71,9 +72,10 @@ void GreyCanvas::FillBox(double left, double top, double right, double bottom, i
 void GreyCanvas::FillStripes(int left, int top, int bottom, const std::vector<std::uint8_t>& greys) {
   const int begin = std::clamp(left, 0, width_);
   const int end = std::clamp(left + static_cast<int>(greys.size()), begin, width_);
+  const std::uint8_t* grey = greys.data() + (begin - left);  // out of the loop, which then takes many at once
   for (int y = std::max(top, 0); y < std::min(bottom, height_); ++y) {
-    std::uint8_t* row = &pixels_[At(0, y)];
-    for (int x = begin; x < end; ++x) row[x] = std::min(row[x], greys[static_cast<std::size_t>(x - left)]);
+    std::uint8_t* row = &pixels_[At(begin, y)];
+    for (int i = 0; i < end - begin; ++i) row[i] = std::min(row[i], grey[i]);
   }
 }
 

@@ -1,6 +1,10 @@
 #include <zlib.h>
 
+#include <algorithm>
+#include <array>
+#include <functional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "printing/grey_canvas.h"
@@ -32,40 +36,58 @@ std::string Header(const GreyCanvas& canvas) {
   return header.append(kEightBitsOfGrey, sizeof kEightBitsOfGrey);
 }
 
-std::string Rows(const GreyCanvas& canvas) {
+// Long runs of one byte are what there is to save. Takes the rows one by one, so that what it works on is
+// small.
+class Packer {
+ public:
+  Packer() {
+    constexpr int kWindow = 15;
+    constexpr int kMemory = 8;
+    if (deflateInit2(&stream_, Z_BEST_SPEED, Z_DEFLATED, kWindow, kMemory, Z_RLE) != Z_OK) Fail();
+  }
+  Packer(const Packer&) = delete;
+  Packer& operator=(const Packer&) = delete;
+  ~Packer() { deflateEnd(&stream_); }
+
+  void Add(std::vector<std::uint8_t>& bytes) { Pack(bytes.data(), bytes.size(), Z_NO_FLUSH); }
+  std::string Finish() {
+    Pack(nullptr, 0, Z_FINISH);
+    return std::move(packed_);
+  }
+
+ private:
+  [[noreturn]] static void Fail() { throw Fault("A drawing could not be packed."); }
+
+  void Pack(std::uint8_t* bytes, std::size_t size, int flush) {
+    stream_.next_in = bytes;
+    stream_.avail_in = static_cast<uInt>(size);
+    do {
+      std::array<Bytef, 4096> piece;
+      stream_.next_out = piece.data();
+      stream_.avail_out = static_cast<uInt>(piece.size());
+      if (deflate(&stream_, flush) == Z_STREAM_ERROR) Fail();
+      packed_.append(reinterpret_cast<const char*>(piece.data()), piece.size() - stream_.avail_out);
+    } while (stream_.avail_out == 0);
+  }
+
+  z_stream stream_ = {};
+  std::string packed_;
+};
+
+std::string PackedRows(const GreyCanvas& canvas) {
   const auto width = static_cast<std::size_t>(canvas.width());
-  std::string rows((width + 1) * static_cast<std::size_t>(canvas.height()), '\0');
+  Packer packer;
+  std::vector<std::uint8_t> told(width + 1);
+  told[0] = kLikeTheRowAbove;
   const std::vector<std::uint8_t> nothing(width);
   const std::uint8_t* above = nothing.data();
-  char* out = rows.data();
   for (int y = 0; y < canvas.height(); ++y) {
     const std::uint8_t* row = canvas.Row(y);
-    *out++ = kLikeTheRowAbove;
-    for (std::size_t x = 0; x < width; ++x) out[x] = static_cast<char>(row[x] - above[x]);
-    out += width;
+    std::transform(row, row + width, above, told.data() + 1, std::minus<std::uint8_t>());
+    packer.Add(told);
     above = row;
   }
-  return rows;
-}
-
-// Long runs of one byte are what there is to save.
-std::string Packed(std::string bytes) {
-  z_stream stream = {};
-  constexpr int kWindow = 15;
-  constexpr int kMemory = 8;
-  if (deflateInit2(&stream, Z_BEST_SPEED, Z_DEFLATED, kWindow, kMemory, Z_RLE) != Z_OK) {
-    throw Fault("A drawing could not be packed.");
-  }
-  std::string packed(deflateBound(&stream, bytes.size()), '\0');
-  stream.next_in = reinterpret_cast<Bytef*>(bytes.data());
-  stream.avail_in = static_cast<uInt>(bytes.size());
-  stream.next_out = reinterpret_cast<Bytef*>(packed.data());
-  stream.avail_out = static_cast<uInt>(packed.size());
-  const int result = deflate(&stream, Z_FINISH);
-  packed.resize(stream.total_out);
-  deflateEnd(&stream);
-  if (result != Z_STREAM_END) throw Fault("A drawing could not be packed.");
-  return packed;
+  return packer.Finish();
 }
 
 }  // namespace
@@ -73,7 +95,7 @@ std::string Packed(std::string bytes) {
 std::string PngOf(const GreyCanvas& canvas) {
   std::string png(kSignature, sizeof kSignature - 1);
   AppendChunk(png, "IHDR", Header(canvas));
-  AppendChunk(png, "IDAT", Packed(Rows(canvas)));
+  AppendChunk(png, "IDAT", PackedRows(canvas));
   AppendChunk(png, "IEND", "");
   return png;
 }

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <map>
+#include <tuple>
 #include <utility>
 
 namespace tarvane::printing {
@@ -176,6 +178,20 @@ void AppendPicture(rich_text::Document& document, rich_text::Picture picture) {
   document.paragraphs.push_back({.begin = static_cast<std::uint32_t>(document.text.size())});
 }
 
+// The drawings of a sheet: the pairs of a room are often alike, and one drawing does for them.
+class Drawings {
+ public:
+  const CurtainDrawing& Of(const CurtainMeasures& measures) {
+    const std::tuple key(measures.track, measures.drop, measures.hem, measures.fullness);
+    const auto found = drawings_.find(key);
+    return found != drawings_.end() ? found->second
+                                    : drawings_.emplace(key, DrawCurtain(measures)).first->second;
+  }
+
+ private:
+  std::map<std::tuple<double, double, double, double>, CurtainDrawing> drawings_;
+};
+
 std::string Caption(const CurtainMeasures& measures, int scale) {
   const std::string description = measures.description.empty() ? "" : measures.description + ": ";
   return description + measures.in_words + ", scale 1 : " + std::to_string(scale) + "\n\n";
@@ -211,9 +227,10 @@ rich_text::Document PrintedDocument(const PrintedJob& job, const rich_text::Char
   const auto append = [&](const std::string& text) {
     Append(document, rich_text::FromPlainText(text, style, font));
   };
+  Drawings drawings;
   Walk(job, append, [&](const CurtainMeasures& measures) {
-    CurtainDrawing drawing = DrawCurtain(measures);
-    AppendPicture(document, std::move(drawing.picture));
+    const CurtainDrawing& drawing = drawings.Of(measures);
+    AppendPicture(document, drawing.picture);
     append(Caption(measures, drawing.scale));
   });
   return document;

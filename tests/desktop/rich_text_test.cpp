@@ -66,6 +66,15 @@ class RichTextTest : public testing::Test {
     screen_.Text.SetDocument(std::move(document));
     Settle();
   }
+  bool ShowsRed() {
+    const QImage seen = edit_->viewport()->grab().toImage();
+    for (int y = 0; y < seen.height(); ++y) {
+      for (int x = 0; x < seen.width(); ++x) {
+        if (seen.pixelColor(x, y) == QColor(Qt::red)) return true;
+      }
+    }
+    return false;
+  }
   void Select(int begin, int end) {
     QTextCursor cursor(edit_->document());
     cursor.setPosition(begin);
@@ -265,6 +274,18 @@ TEST_F(RichTextTest, PicturesComeBackWhenTheyAreUndone) {
   edit_->undo();
   ASSERT_EQ(model().pictures.size(), 1);
   EXPECT_EQ(model().pictures[0], picture);
+  EXPECT_TRUE(ShowsRed());
+}
+
+TEST_F(RichTextTest, PicturesOfADocumentAreShown) {
+  Document document = FromPlainText("");
+  document.text = rich_text::kPictureSign;
+  document.pictures.push_back({rich_text::Picture::Format::kPng, SmallPicture().toStdString(), 600, 300});
+  Set(document);
+  EXPECT_TRUE(ShowsRed());
+  document.pictures[0].bytes = "no picture";
+  Set(document);
+  EXPECT_FALSE(ShowsRed());
 }
 
 TEST_F(RichTextTest, TablesAreShownAndTypedInto) {
