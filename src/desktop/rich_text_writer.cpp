@@ -43,6 +43,7 @@ QImage Decoded(const Picture& picture, QSize size) {
   return image;
 }
 
+constexpr int kCellPadding = 108;  // twips beside a cell's text, as on paper
 constexpr int kMostPixels = 4000;  // of a picture's side on the screen
 
 int Column(const std::vector<int>& edges, int edge) {
@@ -113,6 +114,8 @@ void RichTextWriter::Write(QTextCursor& cursor, std::size_t first, std::size_t e
   for (std::size_t i = first; i < end;) {
     if (document_.paragraphs[i].row >= 0) {
       i = WriteTable(cursor, i, end);
+      // Where no paragraph follows, one that is typed there looks like the last cell.
+      cursor.setBlockCharFormat(FormatOf(document_.StyleAt(document_.ParagraphEnd(i - 1))));
       in_block = true;  // the one behind the table
       continue;
     }
@@ -149,8 +152,8 @@ QTextTable* RichTextWriter::MakeTable(QTextCursor& cursor, int first_row, int en
   format.setBorderCollapse(true);
   format.setBorder(0);
   format.setCellSpacing(0);
-  format.setCellPadding(formats_.Pixels(60));
-  format.setLeftMargin(formats_.Pixels(std::max(0, left)));
+  format.setCellPadding(formats_.Pixels(60));  // above and below
+  format.setLeftMargin(formats_.Pixels(left));
   QList<QTextLength> widths;
   for (int before = left; const int edge : edges) {
     widths.append(QTextLength(QTextLength::FixedLength, formats_.Pixels(edge - std::exchange(before, edge))));
@@ -203,7 +206,10 @@ std::size_t RichTextWriter::WriteTable(QTextCursor& cursor, std::size_t first, s
       const std::size_t begin = i;
       // The format of a cell is that of its first block as well.
       QTextCharFormat look = FormatOf(document_.StyleAt(document_.ParagraphEnd(i)));
-      look.merge(FormatOfCell(row, cell));
+      QTextTableCellFormat frame = FormatOfCell(row, cell);
+      frame.setLeftPadding(formats_.Pixels(kCellPadding));
+      frame.setRightPadding(formats_.Pixels(kCellPadding));
+      look.merge(frame);
       made.setFormat(look);
       while (i < behind && paragraphs[i].row == paragraphs[begin].row && paragraphs[i].cell == cell) ++i;
       QTextCursor inside = made.firstCursorPosition();
