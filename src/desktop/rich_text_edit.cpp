@@ -50,15 +50,25 @@ bool InTable(const QTextBlock& block) {
   return qobject_cast<QTextTable*>(block.document()->frameAt(block.position())) != nullptr;
 }
 
+// Undoing puts the caret back to where the block of edits began, unless the first of them is made just there.
+void BeginEdits(QTextCursor& cursor, int end) {
+  cursor.beginEditBlock();
+  cursor.setPosition(end);
+  cursor.insertText(" ");
+}
+
 }  // namespace
 
 RichTextEdit::RichTextEdit(Form& form, RichTextBox& box)
     : form_(form), box_(box), formats_(QWidget::logicalDpiX()) {
   // A sheet is white in dark windows, too.
-  QPalette sheet = palette();
+  QPalette ink = palette();
+  ink.setColor(QPalette::Text, Qt::black);
+  setPalette(ink);
+  // The frame is no part of the sheet: it is drawn like those of other fields.
+  QPalette sheet = viewport()->palette();
   sheet.setColor(QPalette::Base, Qt::white);
-  sheet.setColor(QPalette::Text, Qt::black);
-  setPalette(sheet);
+  viewport()->setPalette(sheet);
   setAcceptRichText(true);
   document()->setDocumentMargin(kSheetMargin);
   document()->setDefaultFont(QFont("Arial", 10));
@@ -120,7 +130,7 @@ void RichTextEdit::CountExtraBlocks() {
 
 // The whole text in a way that can be undone.
 void RichTextEdit::DrawAnew(RichTextWriter& writer, QTextCursor& cursor) {
-  cursor.beginEditBlock();
+  BeginEdits(cursor, document()->characterCount() - 1);
   cursor.select(QTextCursor::Document);
   cursor.removeSelectedText();
   writer.Write(cursor, 0, box_.document().paragraphs.size());
@@ -144,7 +154,6 @@ void RichTextEdit::DrawEdit(const RichTextBox::Edit& edit) {
   const std::size_t first = text.ParagraphAt(edit.before.begin);
   const QTextBlock block = document()->findBlockByNumber(static_cast<int>(first) + blocks_before_);
   RichTextWriter writer(formats_, pictures_, text);
-  // Undoing puts the worker's cursor back to where this one begins.
   QTextCursor cursor = textCursor();
   if (edit.looks_only) {
     cursor.beginEditBlock();
@@ -158,7 +167,7 @@ void RichTextEdit::DrawEdit(const RichTextBox::Edit& edit) {
   if (!last_block.isValid() || !IsPlain(block, last_block, first, last + 1)) {
     return DrawAnew(writer, cursor);
   }
-  cursor.beginEditBlock();
+  BeginEdits(cursor, last_block.position() + last_block.length() - 1);
   cursor.setPosition(block.position());
   cursor.setPosition(last_block.position() + last_block.length() - 1, QTextCursor::KeepAnchor);
   cursor.removeSelectedText();
@@ -275,7 +284,12 @@ void RichTextEdit::TakeAll() {
 
 void RichTextEdit::TakeSelection() {
   if (drawing_ || taking_ || drawn_ != box_.whole_texts()) return;
-  const QTextCursor cursor = textCursor();
+  QTextCursor cursor = textCursor();
+  if (!cursor.hasSelection() && cursor.blockNumber() < blocks_before_) {
+    // No paragraph of the text's: the caret goes on into the first cell.
+    cursor.movePosition(QTextCursor::NextBlock);
+    return setTextCursor(cursor);
+  }
   const Range range{PlaceOf(cursor.selectionStart()), PlaceOf(cursor.selectionEnd())};
   if (range == box_.selection()) return;
   form_.Act(box_, [&](Control&) { box_.UserSelect(range); });
@@ -316,10 +330,13 @@ void RichTextEdit::keyPressEvent(QKeyEvent* event) {
   const bool is_enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   const bool is_tab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
   if (is_tab && (event->key() == Qt::Key_Backtab || event->modifiers().testFlag(Qt::ControlModifier))) {
-    // The Tab key alone belongs to the text.
-    focusNextPrevChild(event->key() == Qt::Key_Tab);
+    // The Tab key alone belongs to the text; that of QTextEdit wouldn't let the focus go.
+    QAbstractScrollArea::focusNextPrevChild(event->key() == Qt::Key_Tab);
     return;
   }
+  // With Alt a key is meant for the window, even where nothing there has it.
+  const auto held = event->modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier);
+  if (held == Qt::AltModifier && event->key() < Qt::Key_Escape && event->key() != 0) return event->ignore();
   if (!is_enter || isReadOnly() || event->modifiers().testFlag(Qt::ShiftModifier)) {
     return QTextEdit::keyPressEvent(event);
   }

@@ -34,6 +34,8 @@ QSize SizeOf(const Picture& picture, const RichTextFormats& formats) {
   return {side(picture.width), side(picture.height)};
 }
 
+constexpr int kCellPadding = 108;  // twips beside a cell's text, as on paper
+
 int Column(const std::vector<int>& edges, int edge) {
   return static_cast<int>(std::ranges::lower_bound(edges, edge) - edges.begin());
 }
@@ -113,6 +115,8 @@ void RichTextWriter::Write(QTextCursor& cursor, std::size_t first, std::size_t e
   for (std::size_t i = first; i < end;) {
     if (document_.paragraphs[i].row >= 0) {
       i = WriteTable(cursor, i, end);
+      // Where no paragraph follows, one that is typed there looks like the last cell.
+      cursor.setBlockCharFormat(FormatOf(document_.StyleAt(document_.ParagraphEnd(i - 1))));
       in_block = true;  // the one behind the table
       continue;
     }
@@ -149,8 +153,8 @@ QTextTable* RichTextWriter::MakeTable(QTextCursor& cursor, int first_row, int en
   format.setBorderCollapse(true);
   format.setBorder(0);
   format.setCellSpacing(0);
-  format.setCellPadding(formats_.Pixels(60));
-  format.setLeftMargin(formats_.Pixels(std::max(0, left)));
+  format.setCellPadding(formats_.Pixels(60));  // above and below
+  format.setLeftMargin(formats_.Pixels(left));
   QList<QTextLength> widths;
   for (int before = left; const int edge : edges) {
     widths.append(QTextLength(QTextLength::FixedLength, formats_.Pixels(edge - std::exchange(before, edge))));
@@ -203,7 +207,10 @@ std::size_t RichTextWriter::WriteTable(QTextCursor& cursor, std::size_t first, s
       const std::size_t begin = i;
       // The format of a cell is that of its first block as well.
       QTextCharFormat look = FormatOf(document_.StyleAt(document_.ParagraphEnd(i)));
-      look.merge(FormatOfCell(row, cell));
+      QTextTableCellFormat frame = FormatOfCell(row, cell);
+      frame.setLeftPadding(formats_.Pixels(kCellPadding));
+      frame.setRightPadding(formats_.Pixels(kCellPadding));
+      look.merge(frame);
       made.setFormat(look);
       while (i < behind && paragraphs[i].row == paragraphs[begin].row && paragraphs[i].cell == cell) ++i;
       QTextCursor inside = made.firstCursorPosition();

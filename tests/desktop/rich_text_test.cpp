@@ -251,6 +251,21 @@ TEST_F(RichTextTest, PastedTextHoldsNothingThatTheModelDoesNot) {
   ExpectInStep("redone");
 }
 
+TEST_F(RichTextTest, UndoPutsTheCaretBackToTheFrontOfTheText) {
+  Set(FromPlainText("one two\nthree"));
+  constexpr std::pair<const char*, const char*> kPieces[] = {
+      {"text/plain", "p\nq"}, {"text/html", "x<table><tr><td>in a cell</table>"}};
+  for (const auto& [kind, bytes] : kPieces) {
+    Key(Qt::Key_Home, Qt::ControlModifier);
+    Paste(kind, bytes);
+    EXPECT_NE(text(), "one two\nthree");
+    Key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(text(), "one two\nthree");
+    EXPECT_EQ(edit_->textCursor().position(), 0) << kind;
+    ExpectInStep(kind);
+  }
+}
+
 TEST_F(RichTextTest, ReadersOfALockedTextSelectAndNoMore) {
   Set(FromPlainText("locked"));
   screen_.Text.SetReadOnly(true);
@@ -313,6 +328,59 @@ TEST_F(RichTextTest, TablesAreShownAndTypedInto) {
   }
 }
 
+TEST_F(RichTextTest, TheCaretNeverStandsInFrontOfATableThatBeginsTheText) {
+  Document document = WithTable(false);
+  ChangeStyle(document, {0, 1}, {.bold = true});
+  Set(document);
+  const auto to_the_front = [this](int how) {
+    if (how == 0) return Key(Qt::Key_Home, Qt::ControlModifier);
+    if (how == 1) return Select(0, 0);
+    Key(Qt::Key_Home, Qt::ControlModifier);
+    Key(how == 2 ? Qt::Key_Left : Qt::Key_Up);
+  };
+  for (int how = 0; how < 4; ++how) {
+    to_the_front(how);
+    Type("x");
+    EXPECT_EQ(text(), std::string(static_cast<std::size_t>(how) + 1, 'x') + "a\nb\nc\nd\ne") << how;
+    EXPECT_EQ(model().rows, document.rows);
+    EXPECT_TRUE(model().StyleAt(0).bold) << "as the cell's text";
+    ExpectInStep("typed at the front");
+  }
+}
+
+TEST_F(RichTextTest, WhatIsTypedBehindATableLooksAsTheCellBefore) {
+  Document document = WithTable(false);
+  ChangeStyle(document, {8, 9}, {.half_points_more = 8, .bold = true});
+  Set(document);
+  Key(Qt::Key_End, Qt::ControlModifier);
+  Key(Qt::Key_Right);
+  Type("xy");
+  EXPECT_EQ(text(), "a\nb\nc\nd\ne\nxy");
+  for (const std::size_t place : {10U, 11U}) EXPECT_EQ(model().StyleAt(place), model().StyleAt(8)) << place;
+  ExpectInStep("typed behind");
+}
+
+TEST_F(RichTextTest, TextsOfCellsBeginWhereThoseOfParagraphsDo) {
+  Document document = WithTable(true);
+  for (rich_text::TableRow& row : document.rows) row.left = -108;
+  Set(document);
+  const auto left_of = [this](std::size_t place) {
+    Select(static_cast<int>(place), static_cast<int>(place));
+    return edit_->cursorRect().x();
+  };
+  const QTextBlock before = edit_->document()->begin();
+  EXPECT_NEAR(left_of(0), left_of(static_cast<std::size_t>(before.next().position())), 2);
+}
+
+TEST_F(RichTextTest, KeysWithAltAreNotTyped) {
+  Type("one");
+  Key(Qt::Key_Q, Qt::AltModifier);
+  Key(Qt::Key_7, Qt::AltModifier);
+  EXPECT_EQ(text(), "one");
+  Key(Qt::Key_Backspace, Qt::AltModifier);  // this one takes back
+  EXPECT_EQ(text(), "");
+}
+
 class LetterFormTest : public ShopTest {
  protected:
   void Tell(const std::function<void(Form&, FrmPrintDB&)>& story) {
@@ -339,6 +407,13 @@ TEST_F(LetterFormTest, KeysAloneWriteALetter) {
     for (const int key : {Qt::Key_E, Qt::Key_I, Qt::Key_U}) Key(key, Qt::ControlModifier);
     Key(Qt::Key_Greater, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(letter.LblStyle.caption(), "Arial 11, bold, italic, underlined, centred");
+    Key(Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::focusWidget(), form.WidgetOf(letter.TxtFind));
+    Key(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(QApplication::focusWidget(), form.WidgetOf(letter.RichTextBox1));
+    Key(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_NE(QApplication::focusWidget(), form.WidgetOf(letter.RichTextBox1));
+    WidgetOf<QTextEdit>(form, letter.RichTextBox1)->setFocus();
     Type("words");
     EXPECT_EQ(letter.RichTextBox1.PlainText(), "Dear Mrs Blake,\r\nsome words.");
     EXPECT_TRUE(form.window()->isWindowModified());
