@@ -331,6 +331,7 @@ void RichTextEdit::keyPressEvent(QKeyEvent* event) {
   const bool is_tab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
   if (is_tab && (event->key() == Qt::Key_Backtab || event->modifiers().testFlag(Qt::ControlModifier))) {
     // The Tab key alone belongs to the text; that of QTextEdit wouldn't let the focus go.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): the text edit itself would keep the focus
     QAbstractScrollArea::focusNextPrevChild(event->key() == Qt::Key_Tab);
     return;
   }
