@@ -1,6 +1,6 @@
 // desktop_work_sheet: how long a work sheet of twelve rooms of 20 curtains takes from the press of its button
 // to the preview with its first page drawn, offscreen, without and with the drawings. Medians and the longest
-// of all; at most 150 ms without drawings are meant to be kept.
+// of all; at most 150 ms are meant to be kept.
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QTest>
